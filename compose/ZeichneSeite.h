@@ -1,0 +1,18 @@
+#pragma once
+// The central redraw: the whole page on the target that the state selects.
+
+namespace zp {
+struct AppState;
+class Canvas;
+
+// The three surfaces of the composition. The target is the printer while DruckenAktiv, else the
+// export bitmap while ExportAktiv, else the page picture. Frame outlines during export still go
+// to the page picture, so it may be set as well.
+struct Zeichenziele {
+    Canvas* PictureSeite = nullptr;
+    Canvas* Printer = nullptr;
+    Canvas* Lead2 = nullptr;
+};
+
+void ZeichneSeite(AppState& s, Zeichenziele& ziele);
+} // namespace zp

@@ -1,0 +1,38 @@
+#pragma once
+// What the headless core asks of the user interface: questions, messages and the window updates
+// that follow a change of state. The main window implements it; the batch run and the tests use
+// the quiet default, which answers questions with a preset answer.
+
+#include <QString>
+
+namespace zp {
+
+class Oberflaeche {
+public:
+    virtual ~Oberflaeche() = default;
+
+    // A Yes/No question. The default answers with `standardAntwort`.
+    virtual bool Frage(const QString& text, const QString& titel) {
+        (void)text, (void)titel;
+        return standardAntwort;
+    }
+    // A message box. `detail` carries what a user needs to find the fault (file, line).
+    virtual void Meldung(const QString& text, const QString& titel, const QString& detail = {}) {
+        (void)text, (void)titel, (void)detail;
+    }
+
+    // Window updates after a change of state; the headless core has no window to update.
+    virtual void Neuzeichnen() {}               // ZeichneSeite on the page view
+    virtual void AuswahlAktualisieren() {}      // selection marker (UpdateSelection)
+    virtual void ZoomAktualisieren() {}         // zoom and rulers
+    virtual void StatusDatei(const QString&) {} // status panel 1: "Aktuelle Datei: ..."
+    virtual void SeitentitelAktualisieren() {}  // page caption of the calendar
+    virtual void DateilisteAktualisieren() {}   // recent files and window caption
+    virtual void TypKnopfHervorheben(int typ, bool an) { (void)typ, (void)an; }
+    virtual void PanelAktualisieren() {} // side panel boxes from the state
+    virtual void DatensatzAnzeigen() {}  // record view of the card editions
+
+    bool standardAntwort = true;
+};
+
+} // namespace zp

@@ -1,0 +1,79 @@
+#pragma once
+// Line files as the program reads and writes them: Windows-1252 with CR LF, read back also from
+// UTF-8 (with or without BOM) and with LF or CR line ends. Writers replace files atomically.
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+#include <cstdint>
+#include <optional>
+#include <stdexcept>
+
+namespace zp {
+
+// Splits file bytes into lines. The encoding is UTF-8 when the bytes start with its BOM or are
+// valid UTF-8 holding a multi-byte character, else Windows-1252.
+[[nodiscard]] QStringList ZeilenAusBytes(const QByteArray& bytes);
+
+// Joins lines with CR LF after each, in Windows-1252; falls back to UTF-8 with BOM only when a
+// character has no Windows-1252 byte, so that nothing typed is lost.
+[[nodiscard]] QByteArray BytesAusZeilen(const QStringList& lines);
+
+// Reads a whole file; std::nullopt when it can't be opened.
+[[nodiscard]] std::optional<QByteArray> LeseDatei(const QString& path);
+// Replaces `path` atomically with `bytes` (QSaveFile). On failure returns false and fills `fehler`.
+bool SchreibeDateiAtomar(const QString& path, const QByteArray& bytes, QString* fehler = nullptr);
+
+// A file that can't be parsed: the line (1-based) where reading failed, and what was wrong.
+struct FormatFehler : std::runtime_error {
+    FormatFehler(int zeile, const QString& grund);
+    int zeile;
+    QString grund;
+};
+
+// Reads values line by line, as the program's positional formats do. Every failure throws
+// FormatFehler with the line number, so a reader can parse into new objects and give up cleanly.
+class ZeilenLeser {
+public:
+    explicit ZeilenLeser(QStringList lines) : m_lines(std::move(lines)) {}
+    explicit ZeilenLeser(const QByteArray& bytes) : m_lines(ZeilenAusBytes(bytes)) {}
+
+    [[nodiscard]] bool AtEndOfStream() const { return m_next >= m_lines.size(); }
+    // Number of the line read last (1-based), 0 before the first.
+    [[nodiscard]] int Zeilennummer() const { return static_cast<int>(m_next); }
+    [[nodiscard]] qsizetype Restzeilen() const { return m_lines.size() - m_next; }
+
+    QString ReadLine();
+    int16_t LeseInt16();
+    int32_t LeseInt32();
+    int16_t LeseBool(); // -1 or 0
+    double LeseDouble();
+    float LeseSingle();
+    double LeseVal(); // numeric prefix, never fails but at the end of the file
+    // A count of records that each take at least `zeilenJeEintrag` lines: refused when the rest of
+    // the file can't hold it, so no allocation is ever out of proportion to the file.
+    int LeseAnzahl(int zeilenJeEintrag);
+
+    [[noreturn]] void Fehler(const QString& grund) const;
+
+private:
+    QStringList m_lines;
+    qsizetype m_next = 0;
+};
+
+// Collects lines for a writer.
+class ZeilenSchreiber {
+public:
+    void WriteLine(const QString& line) { m_lines << line; }
+    void WriteLine(int32_t value) { m_lines << QString::number(value); }
+    void WriteBool(bool value) { m_lines << (value ? QStringLiteral("-1") : QStringLiteral("0")); }
+    void WriteDouble(double value);
+    void WriteSingle(float value);
+    [[nodiscard]] const QStringList& Zeilen() const { return m_lines; }
+    [[nodiscard]] QByteArray Bytes() const { return BytesAusZeilen(m_lines); }
+
+private:
+    QStringList m_lines;
+};
+
+} // namespace zp
