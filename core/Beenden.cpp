@@ -1,6 +1,8 @@
 #include "Beenden.h"
 
 #include "AppState.h"
+#include "Start.h"
+#include "persist/Design.h"
 #include "persist/Einstellungen.h"
 #include "persist/Katalogdateien.h"
 
@@ -9,7 +11,12 @@ namespace zp {
 bool BeendenDateienSchreiben(AppState& s, Oberflaeche& ui) {
     bool ok = true;
     ok = SaveSettings(s, ui) && ok;
-    if (s.IstKalender != 0) ok = SaveKalenderIni(s, ui) && ok;
+    if (s.IstKalender != 0) {
+        ok = SaveKalenderIni(s, ui) && ok;
+        // The calendar's design goes back to the working design of its type and variant.
+        s.AktuelleDatei = KalenderDesigndatei(s);
+        ok = SaveDesign(s, ui) && ok;
+    }
     if (s.IstEtikett != 0) ok = SaveKartenformate(s, ui) && ok;
     return ok;
 }

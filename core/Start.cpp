@@ -4,6 +4,7 @@
 #include "Oberflaeche.h"
 #include "core/runtime/Basic.h"
 #include "model/Objekte.h"
+#include "persist/Design.h"
 #include "persist/Einstellungen.h"
 #include "persist/Katalogdateien.h"
 
@@ -171,6 +172,11 @@ void Main(AppState& s, const QString& programmpfad, Oberflaeche& ui) {
     ui.Mauszeiger(0);
 }
 
+QString KalenderDesigndatei(const AppState& s) {
+    return s.Programmpfad + QStringLiteral("kal") + basic::Str(s.Kalendertyp).trimmed() + s.Designvariante +
+           QStringLiteral(".zpk");
+}
+
 void SetzeEditionsflags(AppState& s) {
     s.IstKalender = s.IstVisitenkarte = s.IstBriefkopf = s.IstEtikett = s.IstCDHuelle = 0;
     const QString& name = s.Programmname;
@@ -217,7 +223,12 @@ bool LadeStartzustand(AppState& s, Oberflaeche& ui) {
         LoadKartenformate(s, ui);
         s.SchriftNummer = 1;
     }
-    return true;
+    // The start document: the calendar type's working design, else the new document.
+    if (s.IstKalender != 0)
+        s.AktuelleDatei = KalenderDesigndatei(s);
+    else
+        s.Ladevorgabe = QStringLiteral("neu");
+    return LoadDesign(s, ui);
 }
 
 } // namespace zp
