@@ -9,12 +9,6 @@ using namespace zp;
 using namespace zp::test;
 
 namespace {
-std::vector<Zelle> NurRolle(const std::vector<Zelle>& v, int rolle) {
-    std::vector<Zelle> r;
-    for (const auto& z : v)
-        if (z.rolle == rolle) r.push_back(z);
-    return r;
-}
 // Monat 1 grid: month group 1400 x 600 gives columns of 200 and rows of 100.
 AppState Monat1(int jahr, int monat) {
     AppState s = Kalenderdesign(4, jahr, monat);
