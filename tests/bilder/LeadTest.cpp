@@ -2,6 +2,7 @@
 // operation changes the picture in its own direction.
 #include "render/Lead.h"
 #include "Bildhilfe.h"
+#include "common/TestHilfe.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -329,4 +330,16 @@ TEST(LeadRender, ReducesLargeBitmapsToTheDeviceSize) {
     EXPECT_EQ(ziel.zuletzt.size(), QSize(600, 400));
 }
 
+} // namespace
+
+namespace {
+TEST(MitgelieferteMuster, AtLeastTwelvePatternsLoad) {
+    Lead lead;
+    for (int m = 1; m <= 12; ++m) {
+        const QString datei = MitgelieferteDaten(QString("must%1.jpg").arg(m));
+        ASSERT_NO_THROW(lead.Load(datei)) << datei.toStdString();
+        EXPECT_GE(lead.BitmapWidth(), 400);
+        EXPECT_GT(Streuung(lead.Bitmap()), 1.0) << "plain, no pattern: " << datei.toStdString();
+    }
+}
 } // namespace
