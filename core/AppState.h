@@ -12,8 +12,11 @@
 #include <QSet>
 #include <QString>
 #include <cstdint>
+#include <memory>
 
 namespace zp {
+
+class Bildwerk; // render/Bildwerk.h
 
 // The side panel's texts that the document reads: `Text1(1)` ... `Text1(30)` and the calendar's
 // title and footer boxes. Held here so that the headless core composes what the window shows.
@@ -192,6 +195,10 @@ struct AppState {
 
     // ---- Side panel texts (see Seitenleiste) ----------------------------------------------
     Seitenleiste Panel;
+
+    // ---- Pictures -------------------------------------------------------------------------------
+    QString LetztesBild; // File of the last BildLaden; while printing, a repeated name loads once
+    std::shared_ptr<Bildwerk> Bilder; // imaging controls and picture cache; BildwerkVon makes it
 };
 
 } // namespace zp
