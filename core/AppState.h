@@ -23,6 +23,7 @@ struct Seitenleiste {
     QString TextFeiertag;
     QString Textbilddatei;
     QString TextBildbeschreibung;
+    QString TextBild; // picture of the current address record (its column 21)
 };
 
 struct AppState {
