@@ -49,6 +49,7 @@ struct Seitenleiste {
     Farbe PictureFeiertagSchrift = 0xFFFFFF;
     Farbe PictureFeiertagBack = 0xFFFFFF;
     int ComboMonat = 0;
+    QString TextBild; // picture of the current address record (its column 21)
 };
 
 struct AppState {
