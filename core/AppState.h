@@ -135,6 +135,7 @@ struct AppState {
     QString Hilfedatei;
     Liste<QString> Schriftenliste{1000}; // installed font families, end mark "-1"
     Liste<int16_t> SchriftSkalierbar{1000};
+    Liste<uint8_t> Schriftzeichensatz{1000}; // character set byte of each row of Schriftenliste
 
     // ---- Calendar values ---------------------------------------------------------------------
     double Kalenderjahr = 2002;
@@ -148,6 +149,16 @@ struct AppState {
 
     // ---- Dialog colours ----------------------------------------------------------------------
     Farbe Dialogfarbe1 = 0, Dialogfarbe2 = 0, Dialogfarbe3 = 0, Dialogfarbe4 = 0, Dialogfarbe5 = 0;
+
+    // ---- Drawing ------------------------------------------------------------------------------
+    float Vorschaumodus = 0;       // -1 while a property dialog paints its preview
+    int32_t Verlaufsschritte = 100; // steps of soft shadows and gradients
+    QString LetzterText;           // the expanded string of the text drawn last
+    QString Feldtext;              // the "#Feld" text read last; kept from one text to the next
+    // The selection marker on the page picture, twips (Left, Top, Width, Height).
+    struct Markierung {
+        double Left = 0, Top = 0, Width = 0, Height = 0;
+    } Rahmen;
 
     // ---- Work objects: never members of the lists ------------------------------------------
     ClassRahmen AktuellerRahmen;
