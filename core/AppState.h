@@ -137,6 +137,12 @@ struct AppState {
     double AbgleichY = 0;
     QString Druckername; // current printer's device name; empty: the system's default
     double Seriennummer = 0;
+    double ErstesEtikett = 1;  // first label position of a sheet to print, 1-based
+    float NurEineKarte = 0;    // the sheet loop stops after one piece
+    double DruckVon = 1;       // calendar pages to print
+    double DruckBis = 1;
+    double EtikettX = 0; // place of the label being printed on the sheet, tenths of a millimetre
+    double EtikettY = 0;
 
     // ---- Files and names ----------------------------------------------------------------------
     QString Programmpfad; // ends with "/"
