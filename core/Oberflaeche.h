@@ -29,9 +29,12 @@ public:
     virtual void SeitentitelAktualisieren() {}  // page caption of the calendar
     virtual void DateilisteAktualisieren() {}   // recent files and window caption
     virtual void TypKnopfHervorheben(int typ, bool an) { (void)typ, (void)an; }
-    virtual void PanelAktualisieren() {}                  // side panel boxes from the state
-    virtual void DatensatzAnzeigen() {}                   // record view of the card editions
-    virtual void Mauszeiger(int nummer) { (void)nummer; } // 11 hourglass, 0 default
+    virtual void PanelAktualisieren() {} // side panel boxes from the state
+    virtual void DatensatzAnzeigen() {}  // record view of the card editions
+    // The main window's mouse pointer: 11 hourglass, 2 crosshair, 0 default (composition).
+    virtual void Mauszeiger(int zeiger) { (void)zeiger; }
+    virtual void Statusmeldung(const QString&) {} // a note in the status bar, no answer needed
+    virtual void FokusFeldbox(int i) { (void)i; } // keyboard focus to the panel box Text1(i)
 
     bool standardAntwort = true;
 };
