@@ -11,7 +11,8 @@ namespace zp {
 
 namespace {
 // Inside the shipped data: "programm/" is copied into a new program folder as it stands,
-// "editionen/<Edition>/zp.ini" is the settings file of each edition.
+// "editionen/<Edition>/zp.ini" is the settings file of each edition, and every other file goes
+// into the folder's subfolder "daten/" (standard designs, card designs, patterns).
 const QString ProgrammDateien = QStringLiteral("programm");
 const QString EditionsDateien = QStringLiteral("editionen");
 const QString StandardEdition = QStringLiteral("Kalender");
@@ -73,12 +74,19 @@ bool RichteProgrammordnerEin(const QString& ordner, const QString& edition, cons
         return scheitern(QStringLiteral("Die mitgelieferten Daten fehlen (%1).").arg(ini));
 
     // Shipped files first, the settings last: a folder with zp.ini counts as set up.
-    const QString programm = quelle + u'/' + ProgrammDateien;
-    QDirIterator it(programm, QDir::Files | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+    const QDir programm(quelle + u'/' + ProgrammDateien);
+    const QDir daten(quelle);
+    QDirIterator it(quelle, QDir::Files | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
     while (it.hasNext()) {
         const QString datei = it.next();
-        const QString relativ = QDir(programm).relativeFilePath(datei);
-        const QString zielDatei = ziel.filePath(relativ);
+        const QString relativ = daten.relativeFilePath(datei);
+        QString zielDatei;
+        if (relativ.startsWith(EditionsDateien + u'/'))
+            continue;
+        else if (relativ.startsWith(ProgrammDateien + u'/'))
+            zielDatei = ziel.filePath(programm.relativeFilePath(datei));
+        else
+            zielDatei = ziel.filePath(QStringLiteral("daten/") + relativ);
         if (QFileInfo::exists(zielDatei)) continue; // the user's own files are kept
         QDir().mkpath(QFileInfo(zielDatei).absolutePath());
         if (!QFile::copy(datei, zielDatei))

@@ -23,9 +23,10 @@ namespace zp {
 // zp.ini, else the per-user folder $XDG_DATA_HOME/zp/<Edition> (edition default "Kalender").
 [[nodiscard]] QString WaehleProgrammordner(const QString& befehlszeile, const QString& edition);
 
-// Creates `ordner` when needed and, when it holds no zp.ini, copies the shipped program files
-// from `quelle` (files already present are kept) and the settings file of `edition`. Returns
-// false with a German message in `fehler`.
+// Creates `ordner` when needed and, when it holds no zp.ini, seeds it from the shipped data in
+// `quelle`: `quelle/programm/...` into the folder itself, the other files of `quelle` into its
+// subfolder "daten/", and `quelle/editionen/<Edition>/zp.ini` as its settings. Files already
+// present are kept. Returns false with a German message in `fehler`.
 bool RichteProgrammordnerEin(const QString& ordner, const QString& edition, const QString& quelle,
                              QString* fehler);
 

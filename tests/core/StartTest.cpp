@@ -164,6 +164,8 @@ TEST(Programmordner, SeedingKeepsTheUsersFiles) {
         RichteProgrammordnerEin(ordner, QStringLiteral("Etikett"), QStringLiteral(ZP_DATEN_DIR), &fehler));
     EXPECT_EQ(LeseDatei(ordner + QStringLiteral("/etikett.ini")), QByteArray("ende\r\n"));
     EXPECT_TRUE(QFile::exists(ordner + QStringLiteral("/neu.lay")));
+    EXPECT_TRUE(QFile::exists(ordner + QStringLiteral("/daten/must1.jpg"))); // patterns go to daten/
+    EXPECT_FALSE(QFile::exists(ordner + QStringLiteral("/daten/editionen")));
     EXPECT_EQ(LeseDatei(ordner + QStringLiteral("/zp.ini")),
               LeseDatei(test::MitgelieferteDaten(QStringLiteral("editionen/Etikett/zp.ini"))));
     // A folder that has its settings is left alone.
