@@ -2,6 +2,8 @@
 
 #include "AppState.h"
 #include "Start.h"
+#include "calendar/Kalenderdateien.h"
+#include "persist/Datensaetze.h"
 #include "persist/Design.h"
 #include "persist/Einstellungen.h"
 #include "persist/Katalogdateien.h"
@@ -10,9 +12,12 @@ namespace zp {
 
 bool BeendenDateienSchreiben(AppState& s, Oberflaeche& ui) {
     bool ok = true;
+    if (s.IstVisitenkarte != 0) ok = SpeichereDatensaetze(s, ui) && ok;
     ok = SaveSettings(s, ui) && ok;
     if (s.IstKalender != 0) {
         ok = SaveKalenderIni(s, ui) && ok;
+        // The day data always go to auto.zpd, not to the file the user opened.
+        ok = SpeichereAutoDaten(s, ui) && ok;
         // The calendar's design goes back to the working design of its type and variant.
         s.AktuelleDatei = KalenderDesigndatei(s);
         ok = SaveDesign(s, ui) && ok;

@@ -6,7 +6,9 @@ namespace zp {
 struct AppState;
 class Oberflaeche;
 
-// `Beenden` without unloading the window: the settings and the edition's own files. Nothing
+// `Beenden` without unloading the window: the address records (Visitenkarte), the settings, and
+// the edition's own files (Kalender: kalender.ini, auto.zpd and the type's working design;
+// Etikett: etikett.ini). Nothing
 // asks; a file that can't be written is told and the others are still written. Returns false
 // when any file failed.
 bool BeendenDateienSchreiben(AppState& s, Oberflaeche& ui);

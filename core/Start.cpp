@@ -4,6 +4,7 @@
 #include "Oberflaeche.h"
 #include "core/runtime/Basic.h"
 #include "model/Objekte.h"
+#include "persist/Datensaetze.h"
 #include "persist/Design.h"
 #include "persist/Einstellungen.h"
 #include "persist/Katalogdateien.h"
@@ -11,6 +12,8 @@
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QScreen>
+
+#include <algorithm>
 
 namespace zp {
 
@@ -215,10 +218,28 @@ bool LadeStartzustand(AppState& s, Oberflaeche& ui) {
         s.Panel.TextTermin.clear();
         s.Panel.TextTitel.clear();
         s.Panel.TextUnterschrift.clear();
+        s.Panel.PictureTextfarbe = s.Panel.PictureHintergrundfarbe = 0xFFFFFF;
+        s.Panel.PictureFeiertagSchrift = s.Panel.PictureFeiertagBack = 0xFFFFFF;
         s.Datendatei = s.Programmpfad + QStringLiteral("neu.zpd");
+        ui.StatusDatei(QStringLiteral("Aktuelle Datei: ") + s.Datendatei);
         LoadKalenderIni(s, ui);
+        // The month views cover the calendar year; a date outside it moves in first.
+        const int jahr = std::clamp(static_cast<int>(s.Kalenderjahr), 100, 9999);
+        for (Monatsansicht* ansicht : {&s.Panel.MonthView1, &s.Panel.MonthView2}) {
+            ansicht->MinDate = QDate(jahr, 1, 1);
+            ansicht->MaxDate = QDate(jahr, 12, 31);
+            if (!ansicht->Value.isValid() || ansicht->Value < ansicht->MinDate ||
+                ansicht->Value > ansicht->MaxDate)
+                ansicht->Value = ansicht->MinDate;
+        }
+        s.Panel.Textbilddatei = s.Monatsbilder(1);
+        s.Panel.TextBildbeschreibung = s.Monatsbildtexte(1);
+        ui.SeitentitelAktualisieren();
     }
-    if (s.IstVisitenkarte != 0) s.SchriftNummer = 21;
+    if (s.IstVisitenkarte != 0) {
+        LadeDatensaetze(s, ui);
+        s.SchriftNummer = 21;
+    }
     if (s.IstEtikett != 0) {
         LoadKartenformate(s, ui);
         s.SchriftNummer = 1;

@@ -194,11 +194,13 @@ TEST(LadeStartzustand, EditionFilesAndStartDocument) {
 
     QTemporaryDir tmp2;
     AppState v = Gestartet(tmp2, QStringLiteral("Visitenkarte"), ui);
-    v.Datensaetze(1, 1) = QStringLiteral("Erika Mustermann");
     EXPECT_TRUE(LadeStartzustand(v, ui));
     EXPECT_EQ(v.SchriftNummer, 21);
     EXPECT_EQ(v.Panel.Text1(25), u"Tel.:");
-    EXPECT_EQ(v.Datensaetze(1, 1), u"Erika Mustermann"); // the start document is a template
+    // The records come from daten.dat; the start document, a template, leaves them.
+    const QString ersterName = v.Datensaetze(1, 1);
+    EXPECT_FALSE(ersterName.isEmpty());
+    EXPECT_GT(v.DatensatzAnzahl, 1);
 
     // The calendar starts on its type's working design; without it the built-in document stays.
     QTemporaryDir tmp3;
@@ -209,6 +211,9 @@ TEST(LadeStartzustand, EditionFilesAndStartDocument) {
     EXPECT_TRUE(ui.liste.last().contains(u"kal1v2.zpk"));
     EXPECT_EQ(k.RahmenAnzahl, 31);
     EXPECT_EQ(k.FeiertagWahl(1), 1); // kalender.ini was read
+    EXPECT_EQ(k.Panel.MonthView1.MinDate, QDate(2027, 1, 1));
+    EXPECT_EQ(k.Panel.MonthView2.MaxDate, QDate(2027, 12, 31));
+    EXPECT_EQ(k.Panel.MonthView1.Value, QDate(2027, 1, 1));
 }
 
 TEST(Beenden, WritesTheEditionsFiles) {
@@ -222,10 +227,20 @@ TEST(Beenden, WritesTheEditionsFiles) {
     EXPECT_TRUE(LeseDatei(tmp.filePath(QStringLiteral("kal3.zpk")))->startsWith("ZP Datenfile\r\n"));
     EXPECT_TRUE(LeseDatei(tmp.filePath(QStringLiteral("kalender.ini")))->endsWith("\r\n1193046\r\n"));
     EXPECT_TRUE(LeseDatei(tmp.filePath(QStringLiteral("zp.ini")))->contains("Kalendertyp =  3\r\n"));
+    EXPECT_TRUE(QFile::exists(tmp.filePath(QStringLiteral("auto.zpd"))));
+    EXPECT_EQ(k.Datendatei, tmp.path() + QStringLiteral("/auto.zpd"));
 
     // A folder that can't be written: told, and the result says so.
     k.Programmpfad = tmp.filePath(QStringLiteral("weg/"));
     ui.liste.clear();
     EXPECT_FALSE(BeendenDateienSchreiben(k, ui));
-    EXPECT_EQ(ui.liste.size(), 3);
+    EXPECT_EQ(ui.liste.size(), 4);
+
+    // Visitenkarte: the address records go to daten.dat.
+    QTemporaryDir tmp2;
+    AppState v = Gestartet(tmp2, QStringLiteral("Visitenkarte"), ui);
+    ASSERT_TRUE(LadeStartzustand(v, ui));
+    v.Datensaetze(1, 1) = QStringLiteral("Erika Mustermann");
+    EXPECT_TRUE(BeendenDateienSchreiben(v, ui));
+    EXPECT_TRUE(LeseDatei(tmp2.filePath(QStringLiteral("daten.dat")))->contains("Erika Mustermann"));
 }
