@@ -528,7 +528,7 @@ bool LadeDesignAusBytes(AppState& s, Oberflaeche& ui, const QByteArray& bytes) {
             s.AktuelleDatei = s.Programmpfad + QStringLiteral("neu.zpe");
     }
     s.Ladevorgabe.clear();
-    if (s.IstKalender == 0) ui.StatusDatei(QStringLiteral("Aktuelle Datei: ") + s.AktuelleDatei);
+    if (s.IstKalender == 0) ui.StatusDatei(s.AktuelleDatei);
     if (s.IstBriefkopf == 0) SetzeSichtbar(s, 31, basic::Falsch);
     if (s.IstKalender != 0) ui.TypKnopfHervorheben(static_cast<int>(s.Kalendertyp), true);
     if (s.IstEtikett != 0) ui.ZoomAktualisieren();

@@ -229,7 +229,7 @@ TEST(LoadDesign, ReadsEveryRecordField) {
     EXPECT_EQ(s.Datensaetze(30, 2), u"S2F30");
     EXPECT_EQ(s.RahmenNummer, 21);
     EXPECT_EQ(s.Panel.Text1(1), u"Hallo");
-    EXPECT_EQ(ui.status, u"Aktuelle Datei: /nirgends/test.zpv");
+    EXPECT_EQ(ui.status, u"/nirgends/test.zpv"); // the window puts "Aktuelle Datei: " before it
     EXPECT_TRUE(ui.meldungen.isEmpty());
 }
 
