@@ -187,6 +187,9 @@ int FuehreStapellaufAus(const Kommandozeile& zeile, AppState& s, BatchOberflaech
     // Without its start document the program still runs on the built-in one, as the window
     // does; the run then ends with status 1.
     LadeStartzustand(s, ui);
+    // In the window the first paint ends the start-up lock; the commands below must find it open,
+    // or their change handlers would return at once.
+    s.LadeSperre = 0;
 
     for (const OptionAufruf& a : zeile.aufrufe) {
         if (a.option->art != OptionArt::Aktion) continue;
