@@ -38,7 +38,8 @@ struct AppState {
     Liste<Farbe> Farbtabelle{60};
     Tabelle<QString> KartenformatWerte{10, 400}; // (column, row), kept as the text read
     Liste<QString> KartenformatNamen{400};
-    Liste<QString> Dateiliste{3}; // recent files
+    double KartenformatAnzahl = 0; // rows of the label catalogue read from etikett.ini
+    Liste<QString> Dateiliste{3};  // recent files
 
     // ---- Day tables: (day 1..31, month 1..12) ---------------------------------------------
     Tabelle<QString> Termine{31, 12};
