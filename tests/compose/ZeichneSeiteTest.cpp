@@ -41,7 +41,7 @@ struct Seite {
     void Zeichne() { ZeichneSeite(s, ziele); }
 };
 
-bool IstUmriss(const Aufruf& a) {
+bool IstUmriss(const CanvasAufruf& a) {
     return a.Name == "Line" && a.Form == Canvas::LineForm::Kasten && a.ForeColor == Umriss;
 }
 } // namespace
@@ -60,7 +60,7 @@ TEST(ZeichneSeite, ReihenfolgeHintergrundRasterRahmenUmrisseMarken) {
     p.Zeichne();
     const auto& a = p.bild.Aufrufe;
     std::vector<std::string> folge;
-    for (const Aufruf& x : a) {
+    for (const CanvasAufruf& x : a) {
         if (x.Name == "Cls")
             folge.push_back("Cls");
         else if (x.Name == "Polygon" && x.FillColor == 0x00FFFF)
@@ -89,7 +89,7 @@ TEST(ZeichneSeite, ReihenfolgeHintergrundRasterRahmenUmrisseMarken) {
     EXPECT_EQ(folge, erwartet);
     // Grid: every 500 tenths of a millimetre, dotted: 5 rows down to 2970 and 4 columns to 2100.
     int raster = 0;
-    for (const Aufruf& x : a)
+    for (const CanvasAufruf& x : a)
         if (x.Name == "Line" && x.Form == Canvas::LineForm::Linie) {
             ++raster;
             EXPECT_EQ(x.DrawStyle, 2);
@@ -97,7 +97,7 @@ TEST(ZeichneSeite, ReihenfolgeHintergrundRasterRahmenUmrisseMarken) {
     EXPECT_EQ(raster, 9);
     // The handles are 80 twips whatever the zoom: 100 / 15 = 6.67 -> 7 and 180 / 15 = 12.
     const auto griffe = p.bild.Alle("Line");
-    const Aufruf& marke = griffe[griffe.size() - 5];
+    const CanvasAufruf& marke = griffe[griffe.size() - 5];
     EXPECT_EQ(marke.Werte, (std::vector<int>{7, 13, 12, 19}));
     EXPECT_EQ(marke.DrawWidth, 2);
     EXPECT_EQ(p.bild.DrawWidth, 1);
@@ -109,7 +109,7 @@ TEST(ZeichneSeite, RasterNurBeiGenauMinusEins) {
         p.s.GridAn = an;
         p.Zeichne();
         int raster = 0;
-        for (const Aufruf& x : p.bild.Alle("Line"))
+        for (const CanvasAufruf& x : p.bild.Alle("Line"))
             raster += x.Form == Canvas::LineForm::Linie;
         EXPECT_EQ(raster > 0, an == -1.0f) << an;
     }
@@ -123,7 +123,7 @@ TEST(ZeichneSeite, VerborgeneRahmenOhneInhaltUndOhneUmriss) {
     p.Zeichne();
     EXPECT_TRUE(p.bild.Alle("Print").empty());
     int umrisse = 0;
-    for (const Aufruf& x : p.bild.Aufrufe)
+    for (const CanvasAufruf& x : p.bild.Aufrufe)
         umrisse += IstUmriss(x);
     EXPECT_EQ(umrisse, 3 * 2);
 }
@@ -144,7 +144,7 @@ TEST(ZeichneSeite, BrieftextHinweisNurImBriefkopfAufDemSchirm) {
     Seite p;
     p.s.Rahmenliste(2).Objekttyp = QStringLiteral("RTF");
     p.Zeichne();
-    for (const Aufruf& x : p.bild.Alle("Print"))
+    for (const CanvasAufruf& x : p.bild.Alle("Print"))
         EXPECT_NE(x.Text, QStringLiteral("Brieftext (Anzeige unter Vorschau)"));
     p.s.IstBriefkopf = -1;
     RecordingCanvas neu;
@@ -209,7 +209,7 @@ TEST(ZeichneSeite, ExportBildGroesseUndUmrisseAufDerSeite) {
     EXPECT_EQ(lead.Aufrufe[0].Werte, (std::vector<int>{227, 113})); // 300 x 5.67 x 2 / 15 = 226.8
     EXPECT_EQ(lead.Alle("TextOutA").size(), 2u);
     int umrisse = 0;
-    for (const Aufruf& x : p.bild.Aufrufe)
+    for (const CanvasAufruf& x : p.bild.Aufrufe)
         umrisse += IstUmriss(x);
     EXPECT_EQ(umrisse, 9);
     EXPECT_TRUE(lead.Alle("Line").empty());

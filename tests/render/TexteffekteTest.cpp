@@ -19,7 +19,7 @@ struct Text {
         schrift.FontSize = 10;
         rahmen.X = 100, rahmen.Y = 200, rahmen.Breite = 400, rahmen.Höhe = 300;
     }
-    std::vector<Aufruf> Ausgaben(RecordingCanvas& c) {
+    std::vector<CanvasAufruf> Ausgaben(RecordingCanvas& c) {
         ZeichneSchrift(s, c, schrift, rahmen);
         return c.Alle(c.Art() == CanvasArt::Bildschirm ? "Print" : "TextOutA");
     }
@@ -169,6 +169,6 @@ TEST(Textverlauf, GleicheFarbenLaufenDochAlleDurch) {
     RecordingCanvas c;
     const auto a = t.Ausgaben(c);
     ASSERT_EQ(a.size(), 101u);
-    for (const Aufruf& x : a)
+    for (const CanvasAufruf& x : a)
         EXPECT_EQ(x.ForeColor, 0x445566);
 }

@@ -27,9 +27,9 @@ struct Form {
     void Zeichne(RecordingCanvas& c) { ZeichneLinie(s, c, linie, rahmen); }
 };
 
-std::vector<Aufruf> Figuren(const RecordingCanvas& c) {
-    std::vector<Aufruf> r;
-    for (const Aufruf& a : c.Aufrufe)
+std::vector<CanvasAufruf> Figuren(const RecordingCanvas& c) {
+    std::vector<CanvasAufruf> r;
+    for (const CanvasAufruf& a : c.Aufrufe)
         if (a.Name == "Polygon" || a.Name == "Polyline" || a.Name == "Rectangle" || a.Name == "Ellipse")
             r.push_back(a);
     return r;

@@ -25,14 +25,14 @@ struct Umgebung {
         rahmen.X = 100, rahmen.Y = 200, rahmen.Breite = 400, rahmen.Höhe = 300;
         rahmen.Sichtbar = -1;
     }
-    Aufruf Text(RecordingCanvas& c, CanvasArt art = CanvasArt::Bildschirm) {
+    CanvasAufruf Text(RecordingCanvas& c, CanvasArt art = CanvasArt::Bildschirm) {
         (void)art;
         ZeichneSchrift(s, c, schrift, rahmen);
         const std::string name =
             c.Art() == CanvasArt::Bildschirm || c.Art() == CanvasArt::Vorschau ? "Print" : "TextOutA";
         const auto a = c.Alle(name);
         EXPECT_FALSE(a.empty());
-        return a.empty() ? Aufruf{} : a.back();
+        return a.empty() ? CanvasAufruf{} : a.back();
     }
     std::vector<int> Punkt(int angle, int h, int v) {
         RecordingCanvas c;
@@ -145,7 +145,7 @@ TEST(ZeichneSchrift, SchriftsatzUndRueckgabeDerObjekte) {
     u.s.Schriftenliste(3) = QStringLiteral(" Arial ");
     u.s.Schriftzeichensatz(3) = 0;
     RecordingCanvas c;
-    const Aufruf a = u.Text(c);
+    const CanvasAufruf a = u.Text(c);
     EXPECT_EQ(a.Schrift.lfHeight, -20); // 1.5 x 10 pt x 96 / 72
     EXPECT_EQ(a.Schrift.lfWeight, 800);
     EXPECT_EQ(a.Schrift.lfEscapement, 300);
@@ -168,7 +168,7 @@ TEST(ZeichneSchrift, LeererSchriftnameBleibtAlsArial20ImDokument) {
     u.schrift.fontname.clear();
     u.schrift.FontSize = 8;
     RecordingCanvas c;
-    const Aufruf a = u.Text(c);
+    const CanvasAufruf a = u.Text(c);
     EXPECT_EQ(u.schrift.fontname, QStringLiteral("Arial"));
     EXPECT_EQ(u.schrift.FontSize, 20);
     EXPECT_EQ(a.Schrift.lfHeight, -27); // 20 pt at 96 dpi = 26.67
@@ -200,7 +200,7 @@ TEST(ZeichneSchrift, VorgabenFarbeBleibtWinkelWirdVerbraucht) {
     u.s.Farbvorgabe = 0x0000FF;
     u.s.Winkelvorgabe = 90;
     RecordingCanvas c;
-    const Aufruf a = u.Text(c);
+    const CanvasAufruf a = u.Text(c);
     EXPECT_EQ(a.ForeColor, 0x0000FF);
     EXPECT_EQ(a.Schrift.lfEscapement, 900);
     EXPECT_EQ(u.schrift.Color1, 0x123456); // the object as it was
@@ -228,7 +228,7 @@ TEST(ZeichneSchrift, VerborgenerTextLaeuftMitLeeremTextDurch) {
     RecordingCanvas v(CanvasArt::Vorschau);
     ZeichneSchrift(u.s, v, u.schrift, u.rahmen);
     EXPECT_EQ(v.Aufrufe.front().Name, "Cls");
-    const Aufruf p = v.Alle("Print").back();
+    const CanvasAufruf p = v.Alle("Print").back();
     EXPECT_EQ(p.Text, QStringLiteral("ABCD"));
     EXPECT_EQ(p.Schrift.lfHeight, -13);
     // X0 = 300 - 74.07 / 2 = 262.96 -> 263, Y0 = 350 - 17.2 = 332.8 -> 333.
@@ -240,7 +240,7 @@ TEST(ZeichneSchrift, DruckerUndExportGebenMitTextOutAus) {
     u.s.DruckenAktiv = -1;
     u.s.TwipsProPixelX = u.s.TwipsProPixelY = 2.4; // 600 dpi
     RecordingCanvas drucker(CanvasArt::Drucker, 2.4, 2.4);
-    const Aufruf a = u.Text(drucker);
+    const CanvasAufruf a = u.Text(drucker);
     // 10 pt at 600 dpi: 83 px em; X0 = 100, Y0 = 200 -> 567 / 2.4 = 236.25, 1134 / 2.4 = 472.5.
     EXPECT_EQ(a.Schrift.lfHeight, -83);
     EXPECT_EQ(a.Werte, (std::vector<int>{236, 472}));
@@ -250,7 +250,7 @@ TEST(ZeichneSchrift, DruckerUndExportGebenMitTextOutAus) {
     e.s.ExportAktiv = -1;
     RecordingCanvas lead(CanvasArt::Export);
     lead.FontSize = 33;
-    const Aufruf b = e.Text(lead);
+    const CanvasAufruf b = e.Text(lead);
     EXPECT_EQ(b.Werte, (std::vector<int>{38, 76}));
     EXPECT_EQ(lead.FontSize, 33); // the export skips the picture-box font
 }
