@@ -291,7 +291,8 @@ void PainterCanvas::SchreibeText(int x, int y, const QString& text, const Zeiche
         p.fillRect(QRect(0, 0, fm.horizontalAdvance(text), zs.hoehe), QtFarbe(BackColor));
     }
     p.setPen(QtFarbe(ForeColor));
-    if (zs.font.underline() || zs.font.strikeOut()) {
+    // Turned text is laid out afresh: a laid-out string drawn turned ignores a polygon clip.
+    if (zs.font.underline() || zs.font.strikeOut() || drehung != 0) {
         p.drawText(0, zs.ascent, text);
     } else {
         // The same string in the same font comes a hundred times in a row for shadows and

@@ -10,7 +10,9 @@
 namespace zp {
 
 QSize SeitenbildGroesse(const AppState& s) {
-    const bool ganzeSeite = s.IstKalender != 0 || s.IstBriefkopf != 0;
+    // A sheet without a label size (no edition chosen) shows its page.
+    const bool ganzeSeite = s.IstKalender != 0 || s.IstBriefkopf != 0 || s.AktuellesEtikett.Breite <= 0 ||
+                            s.AktuellesEtikett.Höhe <= 0;
     const double breite = ganzeSeite ? s.AktuelleSeite.Breite : s.AktuellesEtikett.Breite;
     const double hoehe = ganzeSeite ? s.AktuelleSeite.Höhe : s.AktuellesEtikett.Höhe;
     const double twips = s.Geraetefaktor * s.Zoomfaktor / 100;

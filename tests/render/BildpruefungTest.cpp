@@ -115,3 +115,40 @@ TEST(Bildpruefung, TextverlaufVonLinksNachRechts) {
     EXPECT_GT(blauR, 150);
     EXPECT_LT(rotR, 20);
 }
+
+TEST(Bildpruefung, GedrehterTextverlaufFolgtDerSchrift) {
+    // Turned by 45 degrees with the gradient along the text: red at its start (lower left), blue
+    // at its end (upper right). The bands come through a turned polygon clip.
+    AppState s;
+    s.Zeichenfaktor = 1;
+    ClassSchrift t;
+    t.Textstring = QStringLiteral("MMMMMMMM");
+    t.FontSize = 30;
+    t.Bold = -1;
+    t.Angle = 45;
+    t.ColorCircle = 1;
+    t.Color1 = 0x0000FF;
+    t.Color2 = 0xFF0000;
+    ClassRahmen r;
+    r.X = 100, r.Y = 800, r.Breite = 300, r.Höhe = 300;
+    ImageCanvas c(QSize(450, 450));
+    ZeichneSchrift(s, c, t, r);
+    const QImage b = c.Bild();
+    const QRect ink = Tinte(b);
+    ASSERT_GT(ink.width(), 150);
+    auto spalte = [&](int x) {
+        int rot = 0, blau = 0;
+        for (int y = ink.top(); y <= ink.bottom(); ++y) {
+            const QColor p = b.pixelColor(x, y);
+            rot = std::max(rot, p.red() - p.blue());
+            blau = std::max(blau, p.blue() - p.red());
+        }
+        return std::pair{rot, blau};
+    };
+    const auto [rotAnfang, blauAnfang] = spalte(ink.left() + 3);
+    const auto [rotEnde, blauEnde] = spalte(ink.right() - 3);
+    EXPECT_GT(rotAnfang, 150);
+    EXPECT_LT(blauAnfang, 20);
+    EXPECT_GT(blauEnde, 150);
+    EXPECT_LT(rotEnde, 20);
+}
