@@ -114,7 +114,7 @@ int main(int argc, char** argv) {
             for (int variante = 1; variante <= 2; ++variante) {
                 std::vector<int> seiten{1};
                 if (typ == 6) seiten.push_back(53);
-                if (typ == 4 || typ == 5) seiten.push_back(6);
+                if (typ == 4 || typ == 5) seiten.insert(seiten.end(), {6, 10});
                 for (int seite : seiten) {
                     AppState s;
                     s.Programmpfad = ziel;
