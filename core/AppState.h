@@ -12,8 +12,11 @@
 #include <QSet>
 #include <QString>
 #include <cstdint>
+#include <memory>
 
 namespace zp {
+
+class Bildwerk; // render/Bildwerk.h
 
 // The side panel's texts that the document reads: `Text1(1)` ... `Text1(30)` and the calendar's
 // title and footer boxes. Held here so that the headless core composes what the window shows.
@@ -46,6 +49,7 @@ struct Seitenleiste {
     Farbe PictureFeiertagSchrift = 0xFFFFFF;
     Farbe PictureFeiertagBack = 0xFFFFFF;
     int ComboMonat = 0;
+    QString TextBild; // picture of the current address record (its column 21)
 };
 
 struct AppState {
@@ -133,6 +137,12 @@ struct AppState {
     double AbgleichY = 0;
     QString Druckername; // current printer's device name; empty: the system's default
     double Seriennummer = 0;
+    double ErstesEtikett = 1;  // first label position of a sheet to print, 1-based
+    float NurEineKarte = 0;    // the sheet loop stops after one piece
+    double DruckVon = 1;       // calendar pages to print
+    double DruckBis = 1;
+    double EtikettX = 0; // place of the label being printed on the sheet, tenths of a millimetre
+    double EtikettY = 0;
 
     // ---- Files and names ----------------------------------------------------------------------
     QString Programmpfad; // ends with "/"
@@ -192,6 +202,10 @@ struct AppState {
 
     // ---- Side panel texts (see Seitenleiste) ----------------------------------------------
     Seitenleiste Panel;
+
+    // ---- Pictures -------------------------------------------------------------------------------
+    QString LetztesBild; // File of the last BildLaden; while printing, a repeated name loads once
+    std::shared_ptr<Bildwerk> Bilder; // imaging controls and picture cache; BildwerkVon makes it
 };
 
 } // namespace zp
