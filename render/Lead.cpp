@@ -15,6 +15,7 @@
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <list>
 #include <mutex>
 #include <optional>
 #include <random>
@@ -53,9 +54,15 @@ void SeiteZuruecksetzen(Magick::Image& bild) {
 struct Lead::Daten {
     std::optional<Magick::Image> magick; // the working form while corrections run
     mutable QImage bitmap;               // the painted form; null while `magick` is newer
-    mutable QImage reduziert;            // the last reduction for Render
-    mutable qint64 reduziertVon = 0;     // cacheKey of the bitmap it was made from
-    mutable QSize reduziertGroesse;
+    // The last reductions for Render, newest first: the page's control paints several pictures
+    // in turn (background, frames), each at its own size.
+    struct Reduktion {
+        qint64 von = 0; // cacheKey of the bitmap it was made from
+        QSize groesse;
+        QImage bild;
+    };
+    mutable std::list<Reduktion> reduktionen;
+    static constexpr size_t MaxReduktionen = 8;
 
     Magick::Image& Arbeitsbild() {
         if (!magick) {
@@ -356,12 +363,18 @@ void Lead::Render(Canvas& ziel, const QRectF& twips) const {
         ziel.RenderBild(bild, twips);
         return;
     }
-    if (d->reduziert.isNull() || d->reduziertVon != bild.cacheKey() || d->reduziertGroesse != geraet) {
-        d->reduziert = bild.scaled(geraet, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        d->reduziertVon = bild.cacheKey();
-        d->reduziertGroesse = geraet;
+    auto& liste = d->reduktionen;
+    for (auto it = liste.begin(); it != liste.end(); ++it) {
+        if (it->von == bild.cacheKey() && it->groesse == geraet) {
+            liste.splice(liste.begin(), liste, it);
+            ziel.RenderBild(liste.front().bild, twips);
+            return;
+        }
     }
-    ziel.RenderBild(d->reduziert, twips);
+    liste.push_front(
+        {bild.cacheKey(), geraet, bild.scaled(geraet, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)});
+    if (liste.size() > Daten::MaxReduktionen) liste.pop_back();
+    ziel.RenderBild(liste.front().bild, twips);
 }
 
 bool Lead::SaveBmp(const QString& datei, QString* fehler) const {
