@@ -35,18 +35,23 @@ QImage ExportBild(AppState& s, Zeichenziele& ziele, const Komposition& zeichne, 
 
     ImageCanvas lead2(QSize(static_cast<int>(breite), static_cast<int>(hoehe)), CanvasArt::Export,
                       ExportTwipsProPixel, ExportTwipsProPixel);
-    Canvas* vorher = ziele.Lead2;
-    ziele.Lead2 = &lead2;
-    s.ExportAktiv = -1;
+    // The device that draws sets the pixel size of the composition's device operations.
     struct Aufraeumen {
         AppState& s;
         Zeichenziele& z;
-        Canvas* vorher;
+        Canvas* lead2;
+        double tppX, tppY;
         ~Aufraeumen() {
             s.ExportAktiv = 0;
-            z.Lead2 = vorher;
+            z.Lead2 = lead2;
+            s.TwipsProPixelX = tppX;
+            s.TwipsProPixelY = tppY;
         }
-    } aufraeumen{s, ziele, vorher};
+    } aufraeumen{s, ziele, ziele.Lead2, s.TwipsProPixelX, s.TwipsProPixelY};
+    ziele.Lead2 = &lead2;
+    s.TwipsProPixelX = ExportTwipsProPixel;
+    s.TwipsProPixelY = ExportTwipsProPixel;
+    s.ExportAktiv = -1;
     zeichne(s, ziele);
     return lead2.Bild();
 }

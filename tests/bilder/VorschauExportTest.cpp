@@ -121,16 +121,19 @@ TEST_F(Bitmapexport, ComposesIntoLead2AtTheExportZoomAndSavesABmp) {
     const Komposition zeichne = [&](AppState& st, Zeichenziele& z) {
         ++aufrufe;
         EXPECT_EQ(st.ExportAktiv, -1);
+        EXPECT_EQ(st.TwipsProPixelX, 15); // the export bitmap's own pixel size, not the printer's
         ASSERT_NE(z.Lead2, nullptr);
         EXPECT_EQ(z.Lead2->Art(), CanvasArt::Export);
         z.Lead2->Line(0, 0, 1500, 1500, 0x0000FF, Canvas::LineForm::KastenGefuellt); // 100 px red
     };
+    s.TwipsProPixelX = s.TwipsProPixelY = 2.4; // left by a print at 600 dpi
     const QString datei = QDir(tmp.path()).filePath("ZP.bmp");
     QString fehler;
     ASSERT_TRUE(BildSpeichern(s, ziele, datei, zeichne, &fehler)) << fehler.toStdString();
     EXPECT_EQ(aufrufe, 1);
     EXPECT_EQ(s.ExportAktiv, 0);
     EXPECT_EQ(ziele.Lead2, nullptr);
+    EXPECT_EQ(s.TwipsProPixelX, 2.4);
 
     const QImage bild(datei);
     // 850 x 5.67 x 2 = 9639 twips = 642.6 pixels; 550 x 5.67 x 2 = 6237 twips = 415.8 pixels.
