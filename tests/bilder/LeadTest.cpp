@@ -4,11 +4,15 @@
 #include "Bildhilfe.h"
 #include "common/TestHilfe.h"
 
+#include <Magick++.h>
+#undef Intensity // the library's deprecated pixel macro would hide the control's operation
+
 #include <QBuffer>
 #include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <cmath>
 
 using namespace zp;
@@ -340,6 +344,70 @@ TEST(MitgelieferteMuster, AtLeastTwelvePatternsLoad) {
         ASSERT_NO_THROW(lead.Load(datei)) << datei.toStdString();
         EXPECT_GE(lead.BitmapWidth(), 400);
         EXPECT_GT(Streuung(lead.Bitmap()), 1.0) << "plain, no pattern: " << datei.toStdString();
+    }
+}
+} // namespace
+
+namespace {
+TEST(LeadFormate, TheDialogsFormatsLoad) {
+    QTemporaryDir tmp;
+    const QDir ordner(tmp.path());
+    const QImage bild = Testbild(24, 16);
+    Lead lead;
+    for (const char* format : {"BMP", "PNG"}) {
+        lead.Load(Speichere(bild, ordner, QString("bild.") + format));
+        EXPECT_EQ(lead.Bitmap(), bild) << format;
+    }
+    lead.Load(Speichere(bild, ordner, "bild.jpg")); // lossy: only the size and the colours roughly
+    EXPECT_EQ(lead.Bitmap().size(), bild.size());
+    EXPECT_NEAR(MittlereHelligkeit(lead.Bitmap()), MittlereHelligkeit(bild), 3);
+
+    // PCX as the picture library writes it.
+    Lead quelle;
+    quelle.SetzeBitmap(bild);
+    ASSERT_TRUE(quelle.SaveBmp(ordner.filePath("quelle.bmp")));
+    {
+        Magick::Image pcx(ordner.filePath("quelle.bmp").toStdString());
+        pcx.write(ordner.filePath("bild.pcx").toStdString());
+    }
+    lead.Load(ordner.filePath("bild.pcx"));
+    EXPECT_EQ(lead.Bitmap(), bild);
+
+    // A placeable metafile of 200 x 100 twips: a rectangle in red over the whole picture.
+    const QByteArray wmf = QByteArray::fromHex(
+        "d7cdc69a000000000000c8006400a005000000001d52010009000003280000000100070000000000050000000b02000000"
+        "00050000000c026400c80007000000fc020000ff0000000000040000002d010000070000001b046400c80000000000030000"
+        "00"
+        "0000");
+    QFile f(ordner.filePath("bild.wmf"));
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write(wmf);
+    f.close();
+    lead.Load(f.fileName());
+    ASSERT_GT(lead.BitmapWidth(), 0);
+    EXPECT_EQ(lead.BitmapWidth(), 2 * lead.BitmapHeight());
+    const QRgb mitte = lead.Bitmap().pixel(lead.BitmapWidth() / 2, lead.BitmapHeight() / 2);
+    EXPECT_GT(qRed(mitte), 200);
+    EXPECT_LT(qGreen(mitte), 60);
+}
+
+TEST(LeadWerte, AbsurdValuesAreHeldToTheirRange) {
+    QTemporaryDir tmp;
+    Lead lead;
+    const QString datei = Speichere(Testbild(20, 12), QDir(tmp.path()), "b.png");
+    for (int wert : {INT_MIN, -100000, 100000, INT_MAX}) {
+        lead.Load(datei);
+        lead.Rotate(wert, true, 0xFFFFFFFF);
+        lead.Intensity(wert);
+        lead.Contrast(wert);
+        lead.Saturation(wert);
+        lead.Hue(wert);
+        lead.Sharpen(wert);
+        lead.AddNoise(wert, 0);
+        lead.Mosaic(wert);
+        lead.Shear(wert, wert > 0, 0xFFFFFFFF);
+        EXPECT_GT(lead.BitmapWidth(), 0) << wert;
+        EXPECT_LT(lead.BitmapWidth(), 200) << wert;
     }
 }
 } // namespace
