@@ -2,6 +2,7 @@
 // operation changes the picture in its own direction.
 #include "render/Lead.h"
 #include "Bildhilfe.h"
+#include "Protokollcanvas.h"
 #include "common/TestHilfe.h"
 
 #include <Magick++.h>
@@ -292,46 +293,13 @@ TEST(LeadSpeichern, BmpHoldsTheBitmapIn24Bits) {
 TEST(LeadRender, ReducesLargeBitmapsToTheDeviceSize) {
     Lead lead;
     lead.SetzeBitmap(Testbild(600, 400));
-    struct Ziel : Canvas {
-        QImage zuletzt;
-        QRectF rechteck;
-        CanvasArt Art() const override { return CanvasArt::Bildschirm; }
-        double Width() const override { return 0; }
-        double Height() const override { return 0; }
-        double TwipsPerPixelX() const override { return 15; }
-        double TwipsPerPixelY() const override { return 15; }
-        void Cls() override {}
-        void Line(double, double, double, double, CanvasFarbe, LineForm) override {}
-        void Circle(double, double, double, CanvasFarbe) override {}
-        void Print(const QString&) override {}
-        double TextWidth(const QString&) override { return 0; }
-        double TextHeight(const QString&) override { return 0; }
-        void SetWindowOrgEx(int, int) override {}
-        void OffsetWindowOrgEx(int, int) override {}
-        QPoint WindowOrg() const override { return {}; }
-        void SetBkMode(bool) override {}
-        GdiHandle CreateFontIndirectA(const LogFont&) override { return 0; }
-        GdiHandle SelectObject(GdiHandle) override { return 0; }
-        void DeleteObject(GdiHandle) override {}
-        QSize GetTextExtentPoint32A(const QString&) override { return {}; }
-        int GetDeviceCaps(int) const override { return 96; }
-        int SetTextCharacterExtra(int) override { return 0; }
-        void TextOutA(int, int, const QString&) override {}
-        GdiHandle CreateRectRgn(int, int, int, int) override { return 0; }
-        GdiHandle CreatePolygonRgn(const std::vector<QPoint>&, PolyFillMode) override { return 0; }
-        void SelectClipRgn(GdiHandle) override {}
-        void OffsetClipRgn(int, int) override {}
-        void Polyline(const std::vector<QPoint>&) override {}
-        void Polygon(const std::vector<QPoint>&) override {}
-        void Rectangle(int, int, int, int) override {}
-        void Ellipse(int, int, int, int) override {}
-        void RenderBild(const QImage& b, const QRectF& t) override { zuletzt = b, rechteck = t; }
-    } ziel;
+    Protokollcanvas ziel;                            // 15 twips per pixel
     lead.Render(ziel, QRectF(150, 300, 1500, 1500)); // 100 x 100 device pixels
-    EXPECT_EQ(ziel.zuletzt.size(), QSize(100, 100));
-    EXPECT_EQ(ziel.rechteck, QRectF(150, 300, 1500, 1500));
+    ASSERT_EQ(ziel.protokoll.size(), 1u);
+    EXPECT_EQ(ziel.protokoll[0].bild.size(), QSize(100, 100));
+    EXPECT_EQ(ziel.protokoll[0].twips, QRectF(150, 300, 1500, 1500));
     lead.Render(ziel, QRectF(0, 0, 9000, 6000)); // as large as the bitmap: handed over whole
-    EXPECT_EQ(ziel.zuletzt.size(), QSize(600, 400));
+    EXPECT_EQ(ziel.protokoll[1].bild.size(), QSize(600, 400));
 }
 
 } // namespace
