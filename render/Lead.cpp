@@ -12,6 +12,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
+#include <QLocale>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
@@ -47,6 +48,15 @@ bool IstGroessengrenze(const std::exception& e) {
 // The library keeps page offsets after rotate and shear; the bitmap starts at 0, 0.
 void SeiteZuruecksetzen(Magick::Image& bild) {
     bild.page(Magick::Geometry(0, 0, 0, 0));
+}
+
+// Turning and shearing enlarge the bitmap; beyond twice the load limit they are refused.
+void PruefeWachstum(double breite, double hoehe, qint64 grenze) {
+    if (breite * hoehe > 2.0 * static_cast<double>(grenze))
+        throw LeadFehler(
+            QStringLiteral("Das gedrehte oder verzerrte Bild wäre mit %1 x %2 Bildpunkten zu groß.")
+                .arg(std::ceil(breite), 0, 'f', 0)
+                .arg(std::ceil(hoehe), 0, 'f', 0));
 }
 
 } // namespace
@@ -127,14 +137,14 @@ void Lead::Load(const QString& datei) {
     const QString zuGross = QStringLiteral("Das Bild \"%1\" ist zu groß. Es können höchstens %2 Millionen "
                                            "Bildpunkte geladen werden.")
                                 .arg(datei)
-                                .arg(MaxBildpunkte / 1'000'000);
+                                .arg(QLocale(QLocale::German).toString(Bildpunktgrenze / 1e6, 'g', 3));
     {
         // Qt reads the size from the header of the common formats without decoding a pixel.
         QBuffer puffer;
         puffer.setData(bytes);
         QImageReader leser(&puffer);
         const QSize groesse = leser.size();
-        if (groesse.isValid() && static_cast<qint64>(groesse.width()) * groesse.height() > MaxBildpunkte)
+        if (groesse.isValid() && static_cast<qint64>(groesse.width()) * groesse.height() > Bildpunktgrenze)
             throw LeadFehler(zuGross);
     }
     try {
@@ -163,7 +173,7 @@ void Lead::Load(const QString& datei) {
     const qint64 hoehe = static_cast<qint64>(kopf.rows());
     if (breite <= 0 || hoehe <= 0)
         throw LeadFehler(QStringLiteral("Die Datei \"%1\" enthält kein Bild.").arg(datei));
-    if (breite * hoehe > MaxBildpunkte)
+    if (breite * hoehe > Bildpunktgrenze)
         throw LeadFehler(zuGross + QStringLiteral(" (%1 x %2 Bildpunkte)").arg(breite).arg(hoehe));
 
     Magick::Image bild;
@@ -212,6 +222,10 @@ void Lead::Rotate(int hundertstelGrad, bool vergroessern, QRgb fuellfarbe) {
     if (winkel == 0 || !HatBild()) return;
     Magick::Image& m = d->Arbeitsbild();
     const size_t w = m.columns(), h = m.rows();
+    const double bogen = winkel / 100.0 * M_PI / 180.0;
+    if (vergroessern)
+        PruefeWachstum(w * std::abs(std::cos(bogen)) + h * std::abs(std::sin(bogen)),
+                       w * std::abs(std::sin(bogen)) + h * std::abs(std::cos(bogen)), Bildpunktgrenze);
     m.backgroundColor(MagickFarbe(fuellfarbe));
     m.rotate(winkel / 100.0);
     SeiteZuruecksetzen(m);
@@ -320,6 +334,11 @@ void Lead::Shear(int grad, bool horizontal, QRgb fuellfarbe) {
     grad = std::clamp(grad, -45, 45);
     if (grad == 0 || !HatBild()) return;
     Magick::Image& m = d->Arbeitsbild();
+    const double schraeg = std::abs(std::tan(grad * M_PI / 180.0));
+    if (horizontal)
+        PruefeWachstum(m.columns() + m.rows() * schraeg, m.rows(), Bildpunktgrenze);
+    else
+        PruefeWachstum(m.columns(), m.rows() + m.columns() * schraeg, Bildpunktgrenze);
     m.backgroundColor(MagickFarbe(fuellfarbe));
     if (horizontal)
         m.shear(grad, 0.0);

@@ -379,3 +379,31 @@ TEST(LeadWerte, AbsurdValuesAreHeldToTheirRange) {
     }
 }
 } // namespace
+
+namespace {
+TEST(LeadGrenze, PicturesAboveTheLimitAndTooLargeTurnsAreRefused) {
+    QTemporaryDir tmp;
+    Lead lead;
+    lead.Bildpunktgrenze = 5000; // 100 x 50 fits exactly
+    const QString datei = Speichere(Testbild(100, 50), QDir(tmp.path()), "b.png");
+    lead.Load(datei);
+    lead.Rotate(9000, true, 0xFFFFFFFF); // a quarter turn keeps the area
+    EXPECT_EQ(lead.BitmapWidth(), 50);
+
+    lead.Load(datei);
+    // 45 degrees: (100 + 50) x 0.71 squared = 11 250 pixels, more than twice the limit.
+    EXPECT_THROW(lead.Rotate(4500, true, 0xFFFFFFFF), LeadFehler);
+    EXPECT_EQ(lead.BitmapWidth(), 100);                          // the picture stays as it was
+    EXPECT_THROW(lead.Shear(45, false, 0xFFFFFFFF), LeadFehler); // 100 x 150
+    lead.Shear(20, false, 0xFFFFFFFF);                           // 100 x 86: within twice the limit
+    EXPECT_NEAR(lead.BitmapHeight(), 86, 2);
+
+    lead.Bildpunktgrenze = 4999;
+    try {
+        lead.Load(datei);
+        ADD_FAILURE() << "ohne Fehler geladen";
+    } catch (const LeadFehler& e) {
+        EXPECT_TRUE(e.Text().contains("zu groß")) << e.Text().toStdString();
+    }
+}
+} // namespace
