@@ -1,6 +1,7 @@
 #include "Beenden.h"
 
 #include "AppState.h"
+#include "persist/Datensaetze.h"
 #include "persist/Einstellungen.h"
 #include "persist/Katalogdateien.h"
 
@@ -8,6 +9,7 @@ namespace zp {
 
 bool BeendenDateienSchreiben(AppState& s, Oberflaeche& ui) {
     bool ok = true;
+    if (s.IstVisitenkarte != 0) ok = SpeichereDatensaetze(s, ui) && ok;
     ok = SaveSettings(s, ui) && ok;
     if (s.IstKalender != 0) ok = SaveKalenderIni(s, ui) && ok;
     if (s.IstEtikett != 0) ok = SaveKartenformate(s, ui) && ok;

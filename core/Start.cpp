@@ -2,8 +2,10 @@
 
 #include "AppState.h"
 #include "Oberflaeche.h"
+#include "core/Datensatzbefehle.h"
 #include "core/runtime/Basic.h"
 #include "model/Objekte.h"
+#include "persist/Datensaetze.h"
 #include "persist/Einstellungen.h"
 #include "persist/Katalogdateien.h"
 
@@ -212,11 +214,16 @@ bool LadeStartzustand(AppState& s, Oberflaeche& ui) {
         s.Datendatei = s.Programmpfad + QStringLiteral("neu.zpd");
         LoadKalenderIni(s, ui);
     }
-    if (s.IstVisitenkarte != 0) s.SchriftNummer = 21;
+    if (s.IstVisitenkarte != 0) {
+        LadeDatensaetze(s, ui);
+        s.SchriftNummer = 21;
+    }
     if (s.IstEtikett != 0) {
         LoadKartenformate(s, ui);
         s.SchriftNummer = 1;
     }
+    // Last: the record on view fills the panel boxes 21 to 30 and the texts that show them.
+    if (s.IstKalender == 0) ZeigeDatensatz(s, ui);
     return true;
 }
 
