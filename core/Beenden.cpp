@@ -3,6 +3,7 @@
 #include "AppState.h"
 #include "Start.h"
 #include "persist/Design.h"
+#include "persist/Datensaetze.h"
 #include "persist/Einstellungen.h"
 #include "persist/Katalogdateien.h"
 
@@ -10,6 +11,7 @@ namespace zp {
 
 bool BeendenDateienSchreiben(AppState& s, Oberflaeche& ui) {
     bool ok = true;
+    if (s.IstVisitenkarte != 0) ok = SpeichereDatensaetze(s, ui) && ok;
     ok = SaveSettings(s, ui) && ok;
     if (s.IstKalender != 0) {
         ok = SaveKalenderIni(s, ui) && ok;

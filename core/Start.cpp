@@ -2,9 +2,11 @@
 
 #include "AppState.h"
 #include "Oberflaeche.h"
+#include "core/Datensatzbefehle.h"
 #include "core/runtime/Basic.h"
 #include "model/Objekte.h"
 #include "persist/Design.h"
+#include "persist/Datensaetze.h"
 #include "persist/Einstellungen.h"
 #include "persist/Katalogdateien.h"
 
@@ -218,7 +220,10 @@ bool LadeStartzustand(AppState& s, Oberflaeche& ui) {
         s.Datendatei = s.Programmpfad + QStringLiteral("neu.zpd");
         LoadKalenderIni(s, ui);
     }
-    if (s.IstVisitenkarte != 0) s.SchriftNummer = 21;
+    if (s.IstVisitenkarte != 0) {
+        LadeDatensaetze(s, ui);
+        s.SchriftNummer = 21;
+    }
     if (s.IstEtikett != 0) {
         LoadKartenformate(s, ui);
         s.SchriftNummer = 1;
@@ -228,7 +233,10 @@ bool LadeStartzustand(AppState& s, Oberflaeche& ui) {
         s.AktuelleDatei = KalenderDesigndatei(s);
     else
         s.Ladevorgabe = QStringLiteral("neu");
-    return LoadDesign(s, ui);
+    const bool geladen = LoadDesign(s, ui);
+    // Last: the record on view fills the panel boxes 21 to 30 and the texts that show them.
+    if (s.IstKalender == 0) ZeigeDatensatz(s, ui);
+    return geladen;
 }
 
 } // namespace zp
