@@ -33,6 +33,8 @@ public:
     virtual void DatensatzAnzeigen() {}  // record view of the card editions
     // The main window's mouse pointer: 11 hourglass, 2 crosshair, 0 default (composition).
     virtual void Mauszeiger(int zeiger) { (void)zeiger; }
+    virtual void Statusmeldung(const QString&) {} // a note in the status bar, no answer needed
+    virtual void FokusFeldbox(int i) { (void)i; } // keyboard focus to the panel box Text1(i)
 
     bool standardAntwort = true;
 };
