@@ -168,3 +168,27 @@ TEST(PdfDruck, DruckerlisteBietetImmerDiePdfDatei) {
 
 } // namespace
 } // namespace zp::test
+
+namespace zp::test {
+namespace {
+
+// A queue of the print system, when the machine has one (cups-pdf serves in tests).
+TEST(Druckerwarteschlange, DruckAufEinerCupsWarteschlange) {
+    const QStringList liste = Druckerliste();
+    if (liste.size() < 2) GTEST_SKIP() << "keine Druckerwarteschlange eingerichtet";
+    AppState s = Bogen(2);
+    Druckauftrag a;
+    a.Wahl.Adressen = Adresswahl::Alle;
+    a.Wahl.Kopien = "2";
+    Mitschrift o;
+    Druckercanvas drucker(liste.at(1), {}, s.AktuelleSeite);
+    EXPECT_FALSE(drucker.IstDatei());
+    EXPECT_GE(drucker.GetDeviceCaps(PHYSICALOFFSETX), 0);
+    EXPECT_DOUBLE_EQ(drucker.TwipsPerPixelX(), 1440.0 / drucker.GetDeviceCaps(LOGPIXELSX));
+    EXPECT_EQ(CommandDrucken(s, o, drucker, a, Namenskomposition()), Druckergebnis::Gedruckt);
+    EXPECT_EQ(drucker.Seiten(), 1);
+    EXPECT_TRUE(o.Meldungen.empty());
+}
+
+} // namespace
+} // namespace zp::test
