@@ -32,7 +32,15 @@ public:
     virtual void PanelAktualisieren() {} // side panel boxes from the state
     virtual void DatensatzAnzeigen() {}  // record view of the card editions
 
+    // The file dialog: returns the chosen path, or "" when the user cancelled. `filter` is in the
+    // form "Name (*.x)|*.x|...". The default answers with `vorgabeDatei`.
+    virtual QString DateiWaehlen(const QString& titel, const QString& filter, bool speichern) {
+        (void)titel, (void)filter, (void)speichern;
+        return vorgabeDatei;
+    }
+
     bool standardAntwort = true;
+    QString vorgabeDatei;
 };
 
 } // namespace zp

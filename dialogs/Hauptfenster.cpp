@@ -1,11 +1,38 @@
-// Until the main window is built, starting without batch options says so and ends.
+// Starting the window: German texts in Qt's own dialogs, the functions of the other areas bound
+// to the commands, then the load handler and the event loop.
 #include "Hauptfenster.h"
+#include "FrmMain.h"
 
-#include <cstdio>
+#include "core/AppState.h"
+#include "core/Dokumentdienste.h"
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
 
 namespace zp {
-int StarteHauptfenster(AppState&) {
-    std::fputs("zp: Das Programmfenster ist noch nicht eingebaut; siehe zp --help für den Stapelbetrieb.\n", stderr);
-    return 1;
+
+Dokumentdienste VorhandeneDienste() {
+    Dokumentdienste d;
+    return d;
 }
+
+int StarteHauptfenster(AppState& s) {
+    auto* app = qobject_cast<QApplication*>(QCoreApplication::instance());
+    if (!app) return 1;
+    QApplication::setApplicationDisplayName(s.Programmname);
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("zp"), QIcon(QStringLiteral(":/zp/zp.svg"))));
+    QTranslator qtDeutsch;
+    if (qtDeutsch.load(QLocale(QLocale::German, QLocale::Germany), QStringLiteral("qtbase"),
+                       QStringLiteral("_"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        app->installTranslator(&qtDeutsch);
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+
+    FrmMain fenster(s, VorhandeneDienste());
+    fenster.Laden();
+    fenster.show();
+    return app->exec();
+}
+
 } // namespace zp
