@@ -136,7 +136,11 @@ public:
     // The imaging control's Render: the bitmap stretched to the rectangle, given in twips.
     virtual void RenderBild(const QImage& bild, const QRectF& twips) = 0;
 
-    // ---- Pages (printer only; the others ignore them) -----------------------------------------
+    // ---- Size and pages ------------------------------------------------------------------------
+    // Gives the surface a new size in twips: the export bitmap is sized by the composition; the
+    // page picture, the previews and the printer keep theirs.
+    virtual void SetzeGroesse(double breiteTwips, double hoeheTwips) { (void)breiteTwips, (void)hoeheTwips; }
+    // Printer only; the others ignore them.
     virtual void NewPage() {}
     virtual void EndDoc() {}
 };

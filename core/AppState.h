@@ -8,13 +8,30 @@
 #include "model/Klassen.h"
 #include "model/SeiteEtikett.h"
 
+#include <QDate>
+#include <QSet>
 #include <QString>
 #include <cstdint>
+#include <memory>
 
 namespace zp {
 
+class Bildwerk; // render/Bildwerk.h
+
 // The side panel's texts that the document reads: `Text1(1)` ... `Text1(30)` and the calendar's
 // title and footer boxes. Held here so that the headless core composes what the window shows.
+// A month view of the calendar panel, as far as the day data depend on it: the current date, the
+// selected range (SelStart..SelEnd), the year range and the bold marks. The month shown is that
+// of `Value`.
+struct Monatsansicht {
+    QDate Value;
+    QDate SelStart;
+    QDate SelEnd;
+    QDate MinDate;
+    QDate MaxDate;
+    QSet<QDate> Fett; // days marked bold
+};
+
 struct Seitenleiste {
     Liste<QString> Text1{30};
     QString TextTitel;
@@ -23,6 +40,16 @@ struct Seitenleiste {
     QString TextFeiertag;
     QString Textbilddatei;
     QString TextBildbeschreibung;
+    // Calendar panel: the two month views (appointments, holidays), their colour boxes (white
+    // stands for "no colour of its own") and the month chosen in ComboMonat (list index).
+    Monatsansicht MonthView1;
+    Monatsansicht MonthView2;
+    Farbe PictureTextfarbe = 0xFFFFFF;
+    Farbe PictureHintergrundfarbe = 0xFFFFFF;
+    Farbe PictureFeiertagSchrift = 0xFFFFFF;
+    Farbe PictureFeiertagBack = 0xFFFFFF;
+    int ComboMonat = 0;
+    QString TextBild; // picture of the current address record (its column 21)
 };
 
 struct AppState {
@@ -38,7 +65,8 @@ struct AppState {
     Liste<Farbe> Farbtabelle{60};
     Tabelle<QString> KartenformatWerte{10, 400}; // (column, row), kept as the text read
     Liste<QString> KartenformatNamen{400};
-    Liste<QString> Dateiliste{3}; // recent files
+    double KartenformatAnzahl = 0; // rows of the label catalogue read from etikett.ini
+    Liste<QString> Dateiliste{3};  // recent files
 
     // ---- Day tables: (day 1..31, month 1..12) ---------------------------------------------
     Tabelle<QString> Termine{31, 12};
@@ -109,6 +137,12 @@ struct AppState {
     double AbgleichY = 0;
     QString Druckername; // current printer's device name; empty: the system's default
     double Seriennummer = 0;
+    double ErstesEtikett = 1;  // first label position of a sheet to print, 1-based
+    float NurEineKarte = 0;    // the sheet loop stops after one piece
+    double DruckVon = 1;       // calendar pages to print
+    double DruckBis = 1;
+    double EtikettX = 0; // place of the label being printed on the sheet, tenths of a millimetre
+    double EtikettY = 0;
 
     // ---- Files and names ----------------------------------------------------------------------
     QString Programmpfad; // ends with "/"
@@ -128,6 +162,7 @@ struct AppState {
     QString Hilfedatei;
     Liste<QString> Schriftenliste{1000}; // installed font families, end mark "-1"
     Liste<int16_t> SchriftSkalierbar{1000};
+    Liste<uint8_t> Schriftzeichensatz{1000}; // character set byte of each row of Schriftenliste
 
     // ---- Calendar values ---------------------------------------------------------------------
     double Kalenderjahr = 2002;
@@ -138,9 +173,24 @@ struct AppState {
     Farbe FarbeTermin = 0;
     QString Kalendertitel = QStringLiteral("Testkalender");
     QString Kalenderunterschrift = QStringLiteral("Text unter dem Kalender");
+    double Spaltenabstand = 0;    // steps of the calendar walks, shared between walks and kept
+    double Zeilenabstand = 0;     // from one call to the next
+    float KalenderBearbeiten = 0; // template frames drawn once at their places, not walked
+    double NaechsteWocheTag = 0;  // where the day numbers of a week page ended
+    double NaechsteWocheMonat = 1;
 
     // ---- Dialog colours ----------------------------------------------------------------------
     Farbe Dialogfarbe1 = 0, Dialogfarbe2 = 0, Dialogfarbe3 = 0, Dialogfarbe4 = 0, Dialogfarbe5 = 0;
+
+    // ---- Drawing ------------------------------------------------------------------------------
+    float Vorschaumodus = 0;       // -1 while a property dialog paints its preview
+    int32_t Verlaufsschritte = 100; // steps of soft shadows and gradients
+    QString LetzterText;           // the expanded string of the text drawn last
+    QString Feldtext;              // the "#Feld" text read last; kept from one text to the next
+    // The selection marker on the page picture, twips (Left, Top, Width, Height).
+    struct Markierung {
+        double Left = 0, Top = 0, Width = 0, Height = 0;
+    } Rahmen;
 
     // ---- Work objects: never members of the lists ------------------------------------------
     ClassRahmen AktuellerRahmen;
@@ -152,6 +202,10 @@ struct AppState {
 
     // ---- Side panel texts (see Seitenleiste) ----------------------------------------------
     Seitenleiste Panel;
+
+    // ---- Pictures -------------------------------------------------------------------------------
+    QString LetztesBild; // File of the last BildLaden; while printing, a repeated name loads once
+    std::shared_ptr<Bildwerk> Bilder; // imaging controls and picture cache; BildwerkVon makes it
 };
 
 } // namespace zp

@@ -31,6 +31,10 @@ public:
     virtual void TypKnopfHervorheben(int typ, bool an) { (void)typ, (void)an; }
     virtual void PanelAktualisieren() {} // side panel boxes from the state
     virtual void DatensatzAnzeigen() {}  // record view of the card editions
+    // The main window's mouse pointer: 11 hourglass, 2 crosshair, 0 default (composition).
+    virtual void Mauszeiger(int zeiger) { (void)zeiger; }
+    virtual void Statusmeldung(const QString&) {} // a note in the status bar, no answer needed
+    virtual void FokusFeldbox(int i) { (void)i; } // keyboard focus to the panel box Text1(i)
 
     // The file dialog: returns the chosen path, or "" when the user cancelled. `filter` is in the
     // form "Name (*.x)|*.x|...". The default answers with `vorgabeDatei`.

@@ -8,4 +8,8 @@ struct ClassRahmen;
 class Canvas;
 
 void ZeichneLinie(AppState& s, Canvas& ziel, ClassLinie& linie, ClassRahmen& rahmen);
+
+// The thumbnail of catalogue shape `form` (1 to 18) on a preview box of the shape dialog, in
+// plain strokes in the box's own twips on the grid 40, 170, 280.
+void ZeichneLinieVorschau(Canvas& box, int form);
 } // namespace zp
