@@ -3,6 +3,7 @@
 #include "AppState.h"
 #include "Dokumentdienste.h"
 #include "Oberflaeche.h"
+#include "calendar/Kalendertypen.h"
 
 #include <QFileInfo>
 #include <QStringList>
@@ -10,6 +11,15 @@
 namespace zp {
 
 namespace {
+
+// A file kind whose reader or writer this build lacks is told, so that nothing looks saved or
+// loaded that isn't.
+bool Vorhanden(const Dienst& dienst, Oberflaeche& ui, const QString& datei) {
+    if (dienst) return true;
+    ui.Meldung(QStringLiteral("Diese Dateiart kann in dieser Programmversion nicht verarbeitet werden."),
+               QStringLiteral("Warnung!"), datei);
+    return false;
+}
 
 // The last three letters of a name: they decide what the calendar loads or saves.
 QString Endung(const QString& name) {
@@ -55,46 +65,25 @@ QString QtDateifilter(const QString& filter) {
     return qt.join(QStringLiteral(";;"));
 }
 
-QString Kalenderdesigndatei(const AppState& s) {
-    return s.Programmpfad + QStringLiteral("kal") + QString::number(static_cast<int>(s.Kalendertyp)) +
-           s.Designvariante + QStringLiteral(".zpk");
-}
-
 QString StatusDateitext(const QString& pfad) {
     return QStringLiteral("Aktuelle Datei: ") + pfad;
 }
 
-void TagestabellenLeeren(AppState& s) {
-    s.Termine.Fuelle(QString());
-    s.Feiertage.Fuelle(QString());
-    s.TerminSchrift.Fuelle(-1);
-    s.TerminBack.Fuelle(-1);
-    s.FeiertagSchrift.Fuelle(-1);
-    s.FeiertagBack.Fuelle(-1);
-}
-
 bool BefehlNeu(AppState& s, Oberflaeche& ui, const Dokumentdienste& d) {
-    if (!ui.Frage(QStringLiteral("Sollen die aktuellen Daten gelöscht werden?"), s.Programmname))
-        return false;
-    if (s.IstKalender == 0) {
-        s.Ladevorgabe = QStringLiteral("neu");
-        s.LadeSperre = 255;
-        DienstAusfuehren(d.LoadDesign, s, ui);
-        s.LadeSperre = 0;
-        ui.PanelAktualisieren();
-        ui.AuswahlAktualisieren();
+    if (s.IstKalender != 0) {
+        // The calendar's New empties the day data; the design stays.
+        if (!DienstAusfuehren(d.KalenderNeu, s, ui)) return false;
         ui.Neuzeichnen();
         return true;
     }
-    // The calendar: the day data go, the month pictures stay.
-    TagestabellenLeeren(s);
-    s.Panel.TextTermin.clear();
-    s.Panel.TextFeiertag.clear();
-    s.Panel.TextTitel.clear();
-    s.Panel.TextUnterschrift.clear();
-    s.Datendatei = s.Programmpfad + QStringLiteral("neu.zpd");
+    if (!ui.Frage(QStringLiteral("Sollen die aktuellen Daten gelöscht werden?"), QStringLiteral("Neu")))
+        return false;
+    s.Ladevorgabe = QStringLiteral("neu");
+    s.LadeSperre = 255;
+    DienstAusfuehren(d.LoadDesign, s, ui);
+    s.LadeSperre = 0;
     ui.PanelAktualisieren();
-    ui.StatusDatei(StatusDateitext(s.Datendatei));
+    ui.AuswahlAktualisieren();
     ui.Neuzeichnen();
     return true;
 }
@@ -107,23 +96,31 @@ bool BefehlOeffnen(AppState& s, Oberflaeche& ui, const Dokumentdienste& d) {
     if (QFileInfo::exists(name)) {
         if (s.IstKalender == 0) {
             // Old label formats go the same way: the loader decides by the file.
+            if (!Vorhanden(d.LoadDesign, ui, name)) {
+                s.LadeSperre = 0;
+                return false;
+            }
             s.AktuelleDatei = name;
             DienstAusfuehren(d.LoadDesign, s, ui);
-            ui.StatusDatei(StatusDateitext(s.AktuelleDatei));
+            ui.StatusDatei(s.AktuelleDatei);
         } else {
             const QString endung = Endung(name).toLower();
             if (endung == QLatin1String("zpk")) {
+                if (!Vorhanden(d.LoadDesign, ui, name)) {
+                    s.LadeSperre = 0;
+                    return false;
+                }
                 s.AktuelleDatei = name;
                 DienstAusfuehren(d.LoadDesign, s, ui);
                 ui.SeitentitelAktualisieren();
             } else if (endung == QLatin1String("zpd")) {
                 s.Datendatei = name;
                 DienstAusfuehren(d.LadeDaten, s, ui);
-                ui.StatusDatei(StatusDateitext(s.Datendatei));
+                ui.StatusDatei(s.Datendatei);
             } else if (endung == QLatin1String("kal")) {
                 s.Datendatei = name;
                 DienstAusfuehren(d.ImportKal, s, ui);
-                ui.StatusDatei(StatusDateitext(s.Datendatei));
+                ui.StatusDatei(s.Datendatei);
             }
         }
         ui.PanelAktualisieren();
@@ -147,14 +144,16 @@ bool BefehlSpeichernUnter(AppState& s, Oberflaeche& ui, const Dokumentdienste& d
     if (name.isEmpty()) return false;
     // Exact comparison: a data ending typed in capitals saves a design under that name.
     if (s.IstKalender != 0 && Endung(name) == QLatin1String("zpd")) {
+        if (!Vorhanden(d.SpeichereDaten, ui, name)) return false;
         s.Datendatei = name;
         const bool gut = DienstAusfuehren(d.SpeichereDaten, s, ui);
-        ui.StatusDatei(StatusDateitext(s.Datendatei));
+        ui.StatusDatei(s.Datendatei);
         return gut;
     }
+    if (!Vorhanden(d.SaveDesign, ui, name)) return false;
     s.AktuelleDatei = name;
     const bool gut = DienstAusfuehren(d.SaveDesign, s, ui);
-    ui.StatusDatei(StatusDateitext(s.AktuelleDatei));
+    ui.StatusDatei(s.AktuelleDatei);
     return gut;
 }
 
@@ -166,7 +165,7 @@ void Beenden(AppState& s, Oberflaeche& ui, const Dokumentdienste& d) {
         // The day data go to auto.zpd, never over the file the user opened.
         s.Datendatei = s.Programmpfad + QStringLiteral("auto.zpd");
         DienstAusfuehren(d.SpeichereDaten, s, ui);
-        s.AktuelleDatei = Kalenderdesigndatei(s);
+        s.AktuelleDatei = Designdatei(s);
         DienstAusfuehren(d.SaveDesign, s, ui);
     }
     if (s.IstEtikett != 0) DienstAusfuehren(d.SaveKartenformate, s, ui);
@@ -186,7 +185,7 @@ void GalerieLaden(AppState& s, Oberflaeche& ui, const Dokumentdienste& d, int ze
     }
     ui.Neuzeichnen();
     s.AktuelleDatei = gemerkt;
-    ui.StatusDatei(StatusDateitext(s.AktuelleDatei));
+    ui.StatusDatei(s.AktuelleDatei);
 }
 
 } // namespace zp

@@ -18,12 +18,11 @@ enum class Dateidialog { Oeffnen, SpeichernUnter, SpeichernUnter2 };
 // The same in the form of Qt's file dialog: "Name (*.x);;Name (*.y)".
 [[nodiscard]] QString QtDateifilter(const QString& filter);
 
-// The working design of the current calendar type and variant: <Programmpfad>kal<Typ><Variante>.zpk.
-[[nodiscard]] QString Kalenderdesigndatei(const AppState& s);
 // "Aktuelle Datei: " and the path, as the status bar shows it.
 [[nodiscard]] QString StatusDateitext(const QString& pfad);
 
-// mnuFileNew. Returns false when the user said No.
+// mnuFileNew: asks, then loads the built-in new document, or in the calendar empties the day
+// data. Returns false when the user said No.
 bool BefehlNeu(AppState& s, Oberflaeche& ui, const Dokumentdienste& d);
 // mnuFileOpen: asks for a file through the window, then loads it by the edition's rules.
 // Returns false when nothing was chosen.
@@ -38,8 +37,5 @@ void Beenden(AppState& s, Oberflaeche& ui, const Dokumentdienste& d);
 // A click on gallery row `zeile` (from 0): loads daten/design<zeile + 1>.zpv as a template and
 // keeps AktuelleDatei, so that the next Save doesn't overwrite the gallery file.
 void GalerieLaden(AppState& s, Oberflaeche& ui, const Dokumentdienste& d, int zeile);
-
-// Every day slot of the six day tables emptied (texts "" and colours -1).
-void TagestabellenLeeren(AppState& s);
 
 } // namespace zp

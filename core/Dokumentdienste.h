@@ -32,8 +32,6 @@ struct Druckdialogwerte {
     QString Kategorie;     // Text4
     bool EineKarte = true; // Option5 "Eine Karte drucken", else Option6 "Seite drucken"
 };
-// Progress of a print run: pieces done and in all; false from it stops the run.
-using Druckfortschritt = std::function<bool(int fertig, int gesamt)>;
 
 struct Dokumentdienste {
     Dienst LoadDesign;     // reads AktuelleDatei, or the built-in document when Ladevorgabe is "neu"
@@ -41,22 +39,22 @@ struct Dokumentdienste {
     Dienst LadeDaten;      // reads the calendar's day data from Datendatei
     Dienst SpeichereDaten; // writes them to Datendatei
     Dienst ImportKal;      // reads an old calendar file named by Datendatei
-    Dienst Importieren;    // old label and text formats (mnuimport)
 
-    Dienst LoadKalenderIni;   // kalender.ini, read at start of the calendar
-    Dienst LoadKartenformate; // etikett.ini, read at start of the label sheets
-    Dienst LadeDatensaetze;   // daten.dat, read at start of the business cards
+    Dienst LadeDatensaetze; // daten.dat, read at start of the business cards
 
     Dienst SaveSettings;         // zp.ini
     Dienst SaveKalenderIni;      // kalender.ini
     Dienst SaveKartenformate;    // etikett.ini
     Dienst SpeichereDatensaetze; // daten.dat
-    Dienst LadeLayout;           // the layout named by Ladevorgabe
 
     Dienst CommandBerechnen; // holidays of Kalenderjahr into the day tables
+    Dienst KalenderNeu;      // the calendar's New: asks, then empties the day data
 
-    // The print run of frmDrucken's "Drucken".
-    std::function<bool(AppState&, Oberflaeche&, const Druckdialogwerte&, const Druckfortschritt&)> Drucken;
+    // The print run of frmDrucken's "Drucken"; the last argument learns the pages printed and
+    // expected, and stops the run by returning false.
+    std::function<bool(AppState&, Oberflaeche&, const Druckdialogwerte&,
+                       const std::function<bool(int, int)>&)>
+        Drucken;
 
     // The page on a picture: runs the central composition on an image canvas of the given size in
     // device pixels. Unset, the page view shows the bare page.

@@ -25,7 +25,7 @@ public:
     virtual void Neuzeichnen() {}               // ZeichneSeite on the page view
     virtual void AuswahlAktualisieren() {}      // selection marker (UpdateSelection)
     virtual void ZoomAktualisieren() {}         // zoom and rulers
-    virtual void StatusDatei(const QString&) {} // status panel 1: "Aktuelle Datei: ..."
+    virtual void StatusDatei(const QString&) {} // status panel 1: "Aktuelle Datei: " and this path
     virtual void SeitentitelAktualisieren() {}  // page caption of the calendar
     virtual void DateilisteAktualisieren() {}   // recent files and window caption
     virtual void TypKnopfHervorheben(int typ, bool an) { (void)typ, (void)an; }

@@ -1,31 +1,13 @@
 #include "Seitennavigation.h"
 
 #include "AppState.h"
+#include "calendar/KalenderLauf.h"
 #include "runtime/Basic.h"
 
 namespace zp {
 
-int SeitenanzahlFuerTyp(double kalendertyp) {
-    switch (static_cast<int>(kalendertyp)) {
-    case 1:
-        return 2;
-    case 2:
-    case 3:
-        return 1;
-    case 4:
-    case 5:
-        return 12;
-    case 6:
-        return 53;
-    case 7:
-        return 4;
-    default:
-        return 1;
-    }
-}
-
 void Seitenbereich(AppState& s) {
-    s.Seitenanzahl = SeitenanzahlFuerTyp(s.Kalendertyp);
+    s.Seitenanzahl = Seitenanzahl(static_cast<int>(s.Kalendertyp));
     if (s.Seitennummer > s.Seitenanzahl || s.Seitennummer < 1 || static_cast<int>(s.Kalendertyp) == 6)
         s.Seitennummer = 1;
 }

@@ -6,10 +6,6 @@
 namespace zp {
 struct AppState;
 
-// Pages of a calendar type: Halbjahr 2, Jahr A5 and Tasche 1, the month types 12, Woche 53,
-// Planer 4. An unknown type has one page.
-[[nodiscard]] int SeitenanzahlFuerTyp(double kalendertyp);
-
 // The page caption update after a type change or a load: Seitenanzahl from the type, and the
 // page back to 1 when it lies beyond the count, and always for the week calendar.
 void Seitenbereich(AppState& s);

@@ -6,19 +6,6 @@
 
 namespace zp {
 
-bool Text1Geaendert(AppState& s, int i, const QString& text) {
-    if (i < 1 || i > 30) return false;
-    s.Panel.Text1(i) = text;
-    if (!s.Schriftliste.Gueltig(i)) return false;
-    s.Schriftliste(i).Textstring = text;
-    const int nummer = static_cast<int>(s.SchriftNummer);
-    if (s.Schriftliste.Gueltig(nummer) && nummer >= 1) ApplyInlineText(s, s.Schriftliste(nummer).Textstring);
-    // Boxes 21 to 30 are the current record's fields 1 to 10.
-    const int satz = static_cast<int>(s.DatensatzNummer);
-    if (i >= 21 && s.Datensaetze.Gueltig(i - 20, satz) && satz >= 1) s.Datensaetze(i - 20, satz) = text;
-    return true;
-}
-
 void ApplyInlineText(AppState& s, const QString& text) {
     const int n = static_cast<int>(s.RahmenNummer);
     if (n < 1 || !s.Rahmenliste.Gueltig(n) || (n >= 21 && n <= 30)) return;

@@ -1,14 +1,16 @@
 // frmMain: construction, the load handler and what the core asks of the window.
 #include "FrmMain.h"
 #include "FrmMsg.h"
-#include "Monatsansicht.h"
+#include "Monatskalender.h"
 #include "Seitenansicht.h"
 
+#include "calendar/Tagesdaten.h"
 #include "core/AppState.h"
+#include "core/Datensatzbefehle.h"
 #include "core/Dokumentbefehle.h"
 #include "core/Editionen.h"
 #include "core/Seitennavigation.h"
-#include "core/Tagesfelder.h"
+#include "core/Start.h"
 #include "core/Zoom.h"
 
 #include <QAction>
@@ -31,6 +33,7 @@
 #include <QSignalBlocker>
 #include <QSpinBox>
 #include <QStackedWidget>
+#include <QStatusBar>
 #include <QToolBar>
 #include <QToolButton>
 #include <cmath>
@@ -73,34 +76,20 @@ void FrmMain::FarbfeldZeigen(QToolButton* feld, int farbe) {
 void FrmMain::Laden() {
     s.LadeSperre = 255;
     const Edition e = AktuelleEdition(s);
-
-    // 1. The installed fonts, with an end mark after the last.
-    const QStringList familien = QFontDatabase::families();
-    int n = 0;
-    for (const QString& f : familien) {
-        if (n + 1 >= s.Schriftenliste.Obergrenze()) break;
-        ++n;
-        s.Schriftenliste(n) = f;
-        s.SchriftSkalierbar(n) = QFontDatabase::isScalable(f) ? -1 : 0;
-    }
-    s.Schriftenliste(n + 1) = QStringLiteral("-1");
-
     EditionAnwenden();
 
-    // 3. The calendar block: empty day data, white colour boxes, a new data file.
+    // 1., 3. to 5. and 11. in the state: fonts, the calendar's empty day data and kalender.ini,
+    // the label catalogue, the text object of the panel, the start document.
+    LadeStartzustand(s, *this);
+    if (e == Edition::Visitenkarte) DienstAusfuehren(m_d.LadeDatensaetze, s, *this);
+
+    // 3. The calendar block of the panel.
     if (e == Edition::Kalender) {
-        TagestabellenLeeren(s);
-        s.Panel.TextTermin.clear();
-        s.Panel.TextTitel.clear();
-        s.Panel.TextUnterschrift.clear();
-        s.Datendatei = s.Programmpfad + QStringLiteral("neu.zpd");
-        StatusDatei(StatusDateitext(s.Datendatei));
-        if (m_d.LoadKalenderIni) DienstAusfuehren(m_d.LoadKalenderIni, s, *this);
+        StatusDatei(s.Datendatei);
+        MonatsansichtenAufJahr(s, static_cast<int>(s.Kalenderjahr));
+        MonatsbildWaehlen(s, 0);
         Seitenbereich(s);
         SeitentitelAktualisieren();
-        MonatsansichtenAufJahr();
-        s.Panel.Textbilddatei = s.Monatsbilder(1);
-        s.Panel.TextBildbeschreibung = s.Monatsbildtexte(1);
         for (int t = 1; t <= 7; ++t)
             TypKnopfHervorheben(t, t == static_cast<int>(s.Kalendertyp));
         m_comboVariante->clear();
@@ -109,27 +98,24 @@ void FrmMain::Laden() {
         m_comboJahr->clear();
         for (int j = 1990; j <= 2010; ++j)
             m_comboJahr->addItem(QString::number(j));
+        // A year outside the list stays valid; the box just shows it.
         m_comboJahr->setEditText(QString::number(static_cast<long long>(s.Kalenderjahr)));
         m_comboMonat->clear();
         for (int m = 1; m <= 12; ++m)
             m_comboMonat->addItem(s.Monatsnamen(m));
         const int typ = static_cast<int>(s.Kalendertyp);
         Aktion(QStringLiteral("Toolbar5_4"))->setVisible(typ == 4 || typ == 5);
+    } else {
+        StatusDatei(s.AktuelleDatei);
     }
 
     // 4. and 5. The card and sheet blocks.
-    if (e == Edition::Visitenkarte) {
-        if (m_d.LadeDatensaetze) DienstAusfuehren(m_d.LadeDatensaetze, s, *this);
-        s.SchriftNummer = 21;
-    }
     for (int i = 1; i <= 30; ++i)
         if (m_label1[i]) m_label1[i]->setText(Eingabebeschriftung(e, i));
     if (e != Edition::Etikett) {
         Aktion(QStringLiteral("Toolbar4_1"))->setVisible(false);
         Aktion(QStringLiteral("Toolbar4_2"))->setChecked(true);
     } else {
-        if (m_d.LoadKartenformate) DienstAusfuehren(m_d.LoadKartenformate, s, *this);
-        s.SchriftNummer = 1;
         Aktion(QStringLiteral("Toolbar4_1"))->setChecked(true);
     }
 
@@ -142,8 +128,7 @@ void FrmMain::Laden() {
     setWindowTitle(s.Programmname + QStringLiteral(" - Version ") + s.Programmversion);
 
     // 8. The side panels share one place; the edition decides which comes first.
-    const Panelwahl panels = StartPanels(e);
-    Panelzeigen(panels.vorne);
+    Panelzeigen(StartPanels(e).vorne);
 
     // 9. The check marks follow the settings.
     Haekchen();
@@ -155,24 +140,10 @@ void FrmMain::Laden() {
         const double z = ZoomBeimStart(s, vp.width(), vp.height());
         if (z >= 1) s.Zoomfaktor = z;
     }
-
-    // 11. The start document.
-    if (e == Edition::Kalender)
-        s.AktuelleDatei = Kalenderdesigndatei(s);
-    else
-        s.Ladevorgabe = QStringLiteral("neu");
-    DienstAusfuehren(m_d.LoadDesign, s, *this);
-    if (e == Edition::Kalender) {
-        Seitenbereich(s);
-        SeitentitelAktualisieren();
-    } else {
-        StatusDatei(StatusDateitext(s.AktuelleDatei));
-    }
     ApplyZoom();
 
-    // 12. and 13. The format bar's button and lists.
-    QAction* eigenschaft = Aktion(QStringLiteral("Toolbar1_Eigenschaft"));
-    eigenschaft->setText(QStringLiteral("Schriftart"));
+    // 12. and 13. The format bar's button and lists: scalable fonts, sizes 8 to 72 by 2.
+    Aktion(QStringLiteral("Toolbar1_Eigenschaft"))->setText(QStringLiteral("Schriftart"));
     m_combo1->clear();
     for (int i = 1; i <= s.Schriftenliste.Obergrenze(); ++i) {
         if (s.Schriftenliste(i) == QLatin1String("-1")) break;
@@ -190,7 +161,7 @@ void FrmMain::Laden() {
     // 15. Selection and the record on show.
     PanelAktualisieren();
     AuswahlAktualisieren();
-    if (e != Edition::Kalender) DatensatzAnzeigen();
+    if (e != Edition::Kalender) ZeigeDatensatz(s, *this);
 }
 
 void FrmMain::showEvent(QShowEvent* e) {
@@ -299,8 +270,8 @@ void FrmMain::AuswahlAktualisieren() {
     marker->show();
 }
 
-void FrmMain::StatusDatei(const QString& text) {
-    m_status[0]->setText(text);
+void FrmMain::StatusDatei(const QString& pfad) {
+    m_status[0]->setText(StatusDateitext(pfad));
 }
 
 void FrmMain::SeitentitelAktualisieren() {
@@ -329,26 +300,30 @@ void FrmMain::PanelAktualisieren() {
     if (m_textTitel->text() != s.Panel.TextTitel) m_textTitel->setText(s.Panel.TextTitel);
     if (m_textUnterschrift->text() != s.Panel.TextUnterschrift)
         m_textUnterschrift->setText(s.Panel.TextUnterschrift);
-    const int monat = std::clamp(m_comboMonat->currentIndex() + 1, 1, 12);
-    m_textbilddatei->setText(s.Monatsbilder(monat));
-    m_textBildbeschreibung->setText(s.Monatsbildtexte(monat));
-    TerminAngeklickt();
-    FeiertagAngeklickt();
-    Tagesmarken();
+    KalenderpanelZeigen();
     s.LadeSperre = sperre;
 }
 
 void FrmMain::DatensatzAnzeigen() {
+    // The record's fields stand in the panel's boxes 21 to 30 of the state.
     const uint8_t sperre = s.LadeSperre;
     s.LadeSperre = 255;
-    const int satz = static_cast<int>(s.DatensatzNummer);
-    for (int i = 1; i <= 10; ++i) {
-        const QString t = s.Datensaetze.Gueltig(i, satz) ? s.Datensaetze(i, satz) : QString();
-        if (m_text1[i + 20]->text() != t) m_text1[i + 20]->setText(t);
-        s.Panel.Text1(i + 20) = t;
-    }
-    m_textData->setText(QString::number(satz));
+    for (int i = 21; i <= 30; ++i)
+        if (m_text1[i]->text() != s.Panel.Text1(i)) m_text1[i]->setText(s.Panel.Text1(i));
+    m_textData->setText(QString::number(static_cast<long long>(s.DatensatzNummer)));
     s.LadeSperre = sperre;
+}
+
+void FrmMain::FokusFeldbox(int i) {
+    if (i >= 1 && i <= 30) m_text1[i]->setFocus();
+}
+
+void FrmMain::Statusmeldung(const QString& text) {
+    statusBar()->showMessage(text, 5000);
+}
+
+QString FrmMain::QtDateiWaehlen(const QString& titel, const QString& qtFilter) {
+    return QFileDialog::getOpenFileName(this, titel, s.Programmpfad, qtFilter);
 }
 
 void FrmMain::Panelzeigen(int frame) {

@@ -4,6 +4,7 @@
 // and binds every control to its command; entries whose work isn't part of this build stay
 // visible and disabled.
 
+#include "calendar/Kalendertypen.h"
 #include "core/Dokumentdienste.h"
 #include "core/Oberflaeche.h"
 
@@ -26,7 +27,7 @@ class QToolButton;
 
 namespace zp {
 struct AppState;
-class Monatsansicht;
+class Monatskalender;
 class Seitenansicht;
 
 class FrmMain : public QMainWindow, public Oberflaeche {
@@ -49,6 +50,10 @@ public:
     void TypKnopfHervorheben(int typ, bool an) override;
     void PanelAktualisieren() override;
     void DatensatzAnzeigen() override;
+    void FokusFeldbox(int i) override;
+    void Statusmeldung(const QString& text) override;
+    // A file to open with a filter already in Qt's form.
+    virtual QString QtDateiWaehlen(const QString& titel, const QString& qtFilter);
 
     // The colour dialog: the chosen colour, or nothing when cancelled.
     virtual std::optional<QColor> FarbeWaehlen(const QColor& start);
@@ -97,11 +102,11 @@ private:
     void TerminAngeklickt();
     void FeiertagAngeklickt();
     void FarbfeldGeklickt(int art);
-    void Tagesmarken();
-    void MonatsansichtenAufJahr();
-    void BilddateiGeaendert();
-    void JahrGetippt();
+    void KalenderpanelZeigen();
+    void Vorschaubild();
+    void JahrGetipptBefehl();
     void JahrGeklickt(int index);
+    Designablage Ablage();
     void SeiteGetippt();
     void Hilfe();
     void Drucken();
@@ -129,8 +134,8 @@ private:
     QComboBox* m_combo1 = nullptr;
     QComboBox* m_combo3 = nullptr;
 
-    Monatsansicht* m_monat1 = nullptr;
-    Monatsansicht* m_monat2 = nullptr;
+    Monatskalender* m_monat1 = nullptr;
+    Monatskalender* m_monat2 = nullptr;
     QPlainTextEdit* m_textTermin = nullptr;
     QLineEdit* m_textFeiertag = nullptr;
     QToolButton* m_farbfeld[4] = {}; // TerminSchrift, TerminBack, FeiertagSchrift, FeiertagBack

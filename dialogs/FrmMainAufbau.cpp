@@ -1,6 +1,6 @@
 // Building frmMain: the menu tree in its order, the toolbars, the side panels and the page view.
 #include "FrmMain.h"
-#include "Monatsansicht.h"
+#include "Monatskalender.h"
 #include "Seitenansicht.h"
 
 #include "core/AppState.h"
@@ -274,13 +274,11 @@ QWidget* FrmMain::PanelDatensatz() {
         auto* b = new QPushButton(QString::fromLatin1(titel[i]));
         b->setObjectName(QString::fromLatin1(namen[i]));
         b->setMaximumWidth(36);
-        b->setEnabled(false);
         nav->addWidget(b);
     }
     m_textData = new QLineEdit;
     m_textData->setObjectName(QStringLiteral("TextData"));
     m_textData->setMaximumWidth(50);
-    m_textData->setEnabled(false);
     nav->insertWidget(2, m_textData);
     v->addLayout(nav);
     auto* f = new QFormLayout;
@@ -297,13 +295,11 @@ QWidget* FrmMain::PanelDatensatz() {
     auto* textSuchen = new QLineEdit;
     textSuchen->setObjectName(QStringLiteral("TextSuchen"));
     textSuchen->setPlaceholderText(QStringLiteral("Suchtext"));
-    textSuchen->setEnabled(false);
     suchen->addWidget(textSuchen);
     const char* knoepfe[][2] = {{"Command1", "Suchen"}, {"Command2", "Löschen"}, {"Command3", "Einfügen"}};
     for (auto& k : knoepfe) {
         auto* b = new QPushButton(QString::fromUtf8(k[1]));
         b->setObjectName(QString::fromLatin1(k[0]));
-        b->setEnabled(false);
         suchen->addWidget(b);
     }
     v->addLayout(suchen);
@@ -334,7 +330,7 @@ QWidget* FrmMain::PanelGalerie() {
 
 QWidget* FrmMain::PanelTermine() {
     auto* v = new QVBoxLayout;
-    m_monat1 = new Monatsansicht;
+    m_monat1 = new Monatskalender;
     m_monat1->setObjectName(QStringLiteral("MonthView1"));
     v->addWidget(m_monat1);
     v->addWidget(new QLabel(QStringLiteral("Termin (Umschalt+Klick wählt mehrere Tage):")));
@@ -358,7 +354,7 @@ QWidget* FrmMain::PanelTermine() {
 
 QWidget* FrmMain::PanelFeiertage() {
     auto* v = new QVBoxLayout;
-    m_monat2 = new Monatsansicht;
+    m_monat2 = new Monatskalender;
     m_monat2->setObjectName(QStringLiteral("MonthView2"));
     v->addWidget(m_monat2);
     v->addWidget(new QLabel(QStringLiteral("Feiertag:")));

@@ -2,15 +2,18 @@
 #include "FrmDrucken.h"
 #include "FrmInfo.h"
 #include "FrmMain.h"
-#include "Monatsansicht.h"
+#include "Monatskalender.h"
 #include "Seitenansicht.h"
 
+#include "calendar/Kalendertypen.h"
+#include "calendar/Tagesdaten.h"
+#include "core/Ansicht.h"
 #include "core/AppState.h"
+#include "core/Datensatzbefehle.h"
 #include "core/Dokumentbefehle.h"
 #include "core/Editionen.h"
-#include "core/Kalenderbefehle.h"
+#include "core/Importbefehl.h"
 #include "core/Seitennavigation.h"
-#include "core/Tagesfelder.h"
 #include "core/Textfelder.h"
 #include "core/Zoom.h"
 #include "core/runtime/Basic.h"
@@ -65,9 +68,8 @@ void FrmMain::Verbinden() {
     bei("mnuFileNew", [this] { BefehlNeu(s, *this, m_d); });
     bei("mnuFileOpen", [this] { BefehlOeffnen(s, *this, m_d); });
     bei("mnuimport", [this] {
-        DienstAusfuehren(m_d.Importieren, s, *this);
-        PanelAktualisieren();
-        Neuzeichnen();
+        const QString datei = QtDateiWaehlen(QStringLiteral("Importieren"), ImportFilter(s));
+        if (!datei.isEmpty() && Importieren(s, *this, datei)) Neuzeichnen();
     });
     bei("mnuFileSave", [this] { BefehlSpeichern(s, *this, m_d); });
     bei("mnuFileSaveAs", [this] { BefehlSpeichernUnter(s, *this, m_d, Dateidialog::SpeichernUnter); });
@@ -75,9 +77,6 @@ void FrmMain::Verbinden() {
     bei("mnuFilePrint", [this] { Drucken(); });
     bei("mnuFileClose", [this] { close(); });
     bei("mnuFileExit", [this] { close(); });
-
-    // Calendar menu entries.
-    bei("mnukalender", [this] { BefehlKalenderZuruecksetzen(s, *this, m_d); });
 
     // View.
     bei("mnuGitterlinienansicht",
@@ -127,9 +126,14 @@ void FrmMain::Verbinden() {
     // Text boxes.
     for (int i = 1; i <= 30; ++i) {
         connect(m_text1[i], &QLineEdit::textChanged, this, [this, i](const QString& t) {
-            if (s.LadeSperre != 0) return;
-            Text1Geaendert(s, i, t);
-            Neuzeichnen();
+            if (s.LadeSperre == 0) {
+                // The frame of the current text shows or hides with it before the page is drawn.
+                if (s.Schriftliste.Gueltig(i)) s.Schriftliste(i).Textstring = t;
+                const int nummer = static_cast<int>(s.SchriftNummer);
+                if (nummer >= 1 && s.Schriftliste.Gueltig(nummer))
+                    ApplyInlineText(s, s.Schriftliste(nummer).Textstring);
+            }
+            FeldboxGeaendert(s, *this, i, t);
         });
     }
     connect(m_textTitel, &QLineEdit::textChanged, this, [this](const QString& t) {
@@ -143,30 +147,46 @@ void FrmMain::Verbinden() {
         Neuzeichnen();
     });
 
-    // Layouts and gallery.
-    for (int k = 1; k <= 5; ++k) {
+    // Records, layouts and gallery.
+    for (int k = 1; k <= 5; ++k)
         connect(findChild<QPushButton*>(QStringLiteral("Command4_%1").arg(k)), &QPushButton::clicked, this,
-                [this, k] {
-                    s.Ladevorgabe = s.Programmpfad + QStringLiteral("Layout%1.lay").arg(k);
-                    DienstAusfuehren(m_d.LadeLayout, s, *this);
-                    s.Ladevorgabe.clear();
-                    PanelAktualisieren();
-                    AuswahlAktualisieren();
-                    Neuzeichnen();
-                });
-    }
+                [this, k] { LayoutKnopf(s, *this, k); });
+    auto knopf = [this](const char* name, auto f) {
+        connect(findChild<QPushButton*>(QString::fromLatin1(name)), &QPushButton::clicked, this, f);
+    };
+    knopf("ComData1", [this] { ErsterDatensatz(s, *this); });
+    knopf("ComData2", [this] { VorigerDatensatz(s, *this); });
+    knopf("Comdata3", [this] { NaechsterDatensatz(s, *this); });
+    knopf("Comdata4", [this] { LetzterDatensatz(s, *this); });
+    knopf("Command1",
+          [this] { SucheDatensatz(s, *this, findChild<QLineEdit*>(QStringLiteral("TextSuchen"))->text()); });
+    knopf("Command2", [this] { LoescheDatensatz(s, *this); });
+    knopf("Command3", [this] { FuegeDatensatzEin(s, *this); });
+    connect(m_textData, &QLineEdit::returnPressed, this,
+            [this] { DatensatzNummerEingegeben(s, *this, m_textData->text()); });
     connect(m_list1, &QListWidget::currentRowChanged, this, [this](int zeile) {
         if (s.LadeSperre != 0) return;
         GalerieLaden(s, *this, m_d, zeile);
     });
 
     // Calendar: type, year, variant, pages, standard design, holidays, refresh.
+    auto nachDesign = [this] {
+        SeitentitelAktualisieren();
+        PanelAktualisieren();
+        AuswahlAktualisieren();
+        Aktion(QStringLiteral("Toolbar5_4"))
+            ->setVisible(static_cast<int>(s.Kalendertyp) == 4 || static_cast<int>(s.Kalendertyp) == 5);
+        Neuzeichnen();
+    };
     for (int t = 1; t <= 7; ++t)
-        connect(m_typ[t], &QPushButton::clicked, this, [this, t] { BefehlKalendertyp(s, *this, m_d, t); });
-    connect(m_comboVariante, &QComboBox::activated, this,
-            [this] { BefehlVariante(s, *this, m_d, m_comboVariante->currentText()); });
+        connect(m_typ[t], &QPushButton::clicked, this, [this, t, nachDesign] {
+            if (CommandTyp(s, *this, Ablage(), t)) nachDesign();
+        });
+    connect(m_comboVariante, &QComboBox::activated, this, [this, nachDesign] {
+        if (ComboVariante(s, *this, Ablage(), m_comboVariante->currentText())) nachDesign();
+    });
     connect(m_comboJahr, &QComboBox::activated, this, [this](int i) { JahrGeklickt(i); });
-    connect(m_comboJahr->lineEdit(), &QLineEdit::editingFinished, this, [this] { JahrGetippt(); });
+    connect(m_comboJahr->lineEdit(), &QLineEdit::editingFinished, this, [this] { JahrGetipptBefehl(); });
     connect(m_upDownSeite, &QSpinBox::valueChanged, this, [this](int seite) {
         if (SeiteWaehlen(s, seite)) {
             const QSignalBlocker b(m_textSeite);
@@ -176,11 +196,17 @@ void FrmMain::Verbinden() {
     });
     connect(m_textSeite, &QLineEdit::textEdited, this, [this] { SeiteGetippt(); });
     connect(findChild<QPushButton*>(QStringLiteral("CommandStandard")), &QPushButton::clicked, this,
-            [this] { BefehlKalenderZuruecksetzen(s, *this, m_d); });
+            [this, nachDesign] {
+                if (CommandStandard(s, *this, Ablage())) nachDesign();
+            });
+    connect(Aktion(QStringLiteral("mnukalender")), &QAction::triggered, this, [this, nachDesign] {
+        if (CommandStandard(s, *this, Ablage())) nachDesign();
+    });
     connect(findChild<QPushButton*>(QStringLiteral("CommandBerechnen")), &QPushButton::clicked, this, [this] {
         DienstAusfuehren(m_d.CommandBerechnen, s, *this);
-        FeiertagAngeklickt();
-        Tagesmarken();
+        TagesmarkenAufbauen(s);
+        FeiertagAnzeigen(s);
+        KalenderpanelZeigen();
         Neuzeichnen();
     });
     for (const char* name : {"CommandAktualisieren", "CommandAktualisieren2"})
@@ -188,16 +214,21 @@ void FrmMain::Verbinden() {
                 [this] { Neuzeichnen(); });
 
     // Day data.
-    connect(m_monat1, &Monatsansicht::auswahlGeaendert, this, [this] {
+    connect(m_monat1, &Monatskalender::auswahlGeaendert, this, [this] {
         TerminAngeklickt();
         m_textTermin->setFocus();
     });
-    connect(m_monat2, &Monatsansicht::auswahlGeaendert, this, [this] {
+    connect(m_monat2, &Monatskalender::auswahlGeaendert, this, [this] {
         FeiertagAngeklickt();
         m_textFeiertag->setFocus();
     });
-    connect(m_monat1, &QCalendarWidget::currentPageChanged, this, [this] { Tagesmarken(); });
-    connect(m_monat2, &QCalendarWidget::currentPageChanged, this, [this] { Tagesmarken(); });
+    // Paging a view to another month rebuilds the marks of the month shown.
+    for (Monatskalender* v : {m_monat1, m_monat2})
+        connect(v, &QCalendarWidget::currentPageChanged, this, [this](int jahr, int monat) {
+            s.Panel.MonthView2.Value = QDate(jahr, monat, 1);
+            TagesmarkenAufbauen(s);
+            KalenderpanelZeigen();
+        });
     connect(m_textTermin, &QPlainTextEdit::textChanged, this, [this] { TerminGeaendert(); });
     connect(m_textFeiertag, &QLineEdit::textChanged, this, [this] { FeiertagGeaendert(); });
     for (int art = 0; art < 4; ++art)
@@ -205,16 +236,18 @@ void FrmMain::Verbinden() {
 
     // Month pictures.
     connect(m_comboMonat, &QComboBox::activated, this, [this](int i) {
-        const QSignalBlocker b1(m_textbilddatei), b2(m_textBildbeschreibung);
-        m_textbilddatei->setText(s.Monatsbilder(i + 1));
-        m_textBildbeschreibung->setText(s.Monatsbildtexte(i + 1));
-        BilddateiGeaendert();
+        MonatsbildWaehlen(s, i);
+        KalenderpanelZeigen();
     });
     connect(m_textBildbeschreibung, &QLineEdit::textChanged, this, [this](const QString& t) {
-        s.Monatsbildtexte(std::clamp(m_comboMonat->currentIndex() + 1, 1, 12)) = t;
-        s.Panel.TextBildbeschreibung = t;
+        if (s.LadeSperre == 0) BildbeschreibungGeaendert(s, t);
     });
-    connect(m_textbilddatei, &QLineEdit::textChanged, this, [this] { BilddateiGeaendert(); });
+    connect(m_textbilddatei, &QLineEdit::textChanged, this, [this](const QString& t) {
+        if (s.LadeSperre != 0) return;
+        const bool neuzeichnen = BilddateiGeaendert(s, t);
+        Vorschaubild();
+        if (neuzeichnen) Neuzeichnen();
+    });
     connect(findChild<QPushButton*>(QStringLiteral("CommandDurchsuchen")), &QPushButton::clicked, this,
             [this] {
                 const QString datei = DateiWaehlen(
@@ -276,22 +309,23 @@ void FrmMain::Freigaben() {
     findChild<QPushButton*>(QStringLiteral("CommandOptionen"))->setEnabled(false);
 
     // Entries that need another area's function are enabled when it is bound.
+    const bool kalender = s.IstKalender != 0;
     const bool laden = static_cast<bool>(m_d.LoadDesign);
     const bool speichern = static_cast<bool>(m_d.SaveDesign);
-    Aktion(QStringLiteral("mnuimport"))->setEnabled(static_cast<bool>(m_d.Importieren));
-    Aktion(QStringLiteral("mnuFileOpen"))->setEnabled(laden || m_d.LadeDaten);
-    Aktion(QStringLiteral("Toolbar1_Öffnen"))->setEnabled(laden || m_d.LadeDaten);
+    const bool oeffnen = laden || (kalender && m_d.LadeDaten);
+    const bool sichern = speichern || (kalender && m_d.SpeichereDaten);
+    Aktion(QStringLiteral("mnuFileOpen"))->setEnabled(oeffnen);
+    Aktion(QStringLiteral("Toolbar1_Öffnen"))->setEnabled(oeffnen);
     for (const char* name : {"mnuFileSave", "mnuFileSaveAs", "mnuFileSaveAs2", "Toolbar1_Speichern"})
-        Aktion(QString::fromUtf8(name))->setEnabled(speichern);
+        Aktion(QString::fromUtf8(name))->setEnabled(sichern);
+    Aktion(QStringLiteral("mnuFileNew"))->setEnabled(kalender ? static_cast<bool>(m_d.KalenderNeu) : laden);
+    Aktion(QStringLiteral("Toolbar1_Neu"))->setEnabled(Aktion(QStringLiteral("mnuFileNew"))->isEnabled());
     Aktion(QStringLiteral("mnukalender"))->setEnabled(laden);
     findChild<QPushButton*>(QStringLiteral("CommandStandard"))->setEnabled(laden);
     for (int t = 1; t <= 7; ++t)
         m_typ[t]->setEnabled(laden && speichern);
     m_comboVariante->setEnabled(laden && speichern);
     m_list1->setEnabled(laden);
-    for (int k = 1; k <= 5; ++k)
-        findChild<QPushButton*>(QStringLiteral("Command4_%1").arg(k))
-            ->setEnabled(static_cast<bool>(m_d.LadeLayout));
     findChild<QPushButton*>(QStringLiteral("CommandBerechnen"))
         ->setEnabled(static_cast<bool>(m_d.CommandBerechnen));
 }
@@ -365,112 +399,87 @@ void FrmMain::Schnappschuss() {
 }
 
 // ---- Calendar side panel ----------------------------------------------------------------------
+// The rules live with the day data; the window hands them the selection and shows the result.
 
-void FrmMain::TerminAngeklickt() {
-    const QDate tag = m_monat1->Aktuell();
+Designablage FrmMain::Ablage() {
+    Designablage a;
+    if (m_d.SaveDesign)
+        a.speichern = [this](AppState& st) { return DienstAusfuehren(m_d.SaveDesign, st, *this); };
+    if (m_d.LoadDesign)
+        a.laden = [this](AppState& st) { return DienstAusfuehren(m_d.LoadDesign, st, *this); };
+    return a;
+}
+
+void FrmMain::KalenderpanelZeigen() {
     const uint8_t sperre = s.LadeSperre;
     s.LadeSperre = 255;
-    const QString text = OhneCrLf(TerminText(s, tag));
-    if (m_textTermin->toPlainText() != text) m_textTermin->setPlainText(text);
-    FarbfeldZeigen(m_farbfeld[0], TagesfarbeLesen(s, Tagesfarbe::TerminSchrift, tag));
-    FarbfeldZeigen(m_farbfeld[1], TagesfarbeLesen(s, Tagesfarbe::TerminBack, tag));
+    const Seitenleiste& p = s.Panel;
+    const QString termin = OhneCrLf(p.TextTermin);
+    if (m_textTermin->toPlainText() != termin) m_textTermin->setPlainText(termin);
+    if (m_textFeiertag->text() != p.TextFeiertag) m_textFeiertag->setText(p.TextFeiertag);
+    FarbfeldZeigen(m_farbfeld[0], p.PictureTextfarbe);
+    FarbfeldZeigen(m_farbfeld[1], p.PictureHintergrundfarbe);
+    FarbfeldZeigen(m_farbfeld[2], p.PictureFeiertagSchrift);
+    FarbfeldZeigen(m_farbfeld[3], p.PictureFeiertagBack);
+    m_monat1->AusZustand(p.MonthView1);
+    m_monat2->AusZustand(p.MonthView2);
+    if (m_comboMonat->count() == 12 && m_comboMonat->currentIndex() != p.ComboMonat)
+        m_comboMonat->setCurrentIndex(std::clamp(p.ComboMonat, 0, 11));
+    if (m_textbilddatei->text() != p.Textbilddatei) m_textbilddatei->setText(p.Textbilddatei);
+    if (m_textBildbeschreibung->text() != p.TextBildbeschreibung)
+        m_textBildbeschreibung->setText(p.TextBildbeschreibung);
+    Vorschaubild();
     s.LadeSperre = sperre;
 }
 
+void FrmMain::TerminAngeklickt() {
+    m_monat1->InZustand(s.Panel.MonthView1);
+    TerminAnzeigen(s);
+    KalenderpanelZeigen();
+}
+
 void FrmMain::FeiertagAngeklickt() {
-    const QDate tag = m_monat2->Aktuell();
-    const uint8_t sperre = s.LadeSperre;
-    s.LadeSperre = 255;
-    const QString text = FeiertagText(s, tag);
-    if (m_textFeiertag->text() != text) m_textFeiertag->setText(text);
-    FarbfeldZeigen(m_farbfeld[2], TagesfarbeLesen(s, Tagesfarbe::FeiertagSchrift, tag));
-    FarbfeldZeigen(m_farbfeld[3], TagesfarbeLesen(s, Tagesfarbe::FeiertagBack, tag));
-    s.LadeSperre = sperre;
-    Tagesmarken();
+    m_monat2->InZustand(s.Panel.MonthView2);
+    FeiertagAnzeigen(s);
+    KalenderpanelZeigen();
 }
 
 void FrmMain::TerminGeaendert() {
     if (s.LadeSperre != 0) return;
-    const QString text = MitCrLf(m_textTermin->toPlainText());
-    TerminEingabe(s, {m_monat1->Aktuell(), m_monat1->SelStart(), m_monat1->SelEnd()}, text);
-    s.Panel.TextTermin = text;
-    if (text.isEmpty()) {
-        FarbfeldZeigen(m_farbfeld[0], -1);
-        FarbfeldZeigen(m_farbfeld[1], -1);
-    }
-    Tagesmarken();
+    m_monat1->InZustand(s.Panel.MonthView1);
+    TextTerminGeaendert(s, MitCrLf(m_textTermin->toPlainText()));
+    KalenderpanelZeigen();
 }
 
 void FrmMain::FeiertagGeaendert() {
     if (s.LadeSperre != 0) return;
-    const QString text = m_textFeiertag->text();
-    FeiertagEingabe(s, m_monat2->Aktuell(), text);
-    s.Panel.TextFeiertag = text;
-    if (text.isEmpty()) {
-        FarbfeldZeigen(m_farbfeld[2], -1);
-        FarbfeldZeigen(m_farbfeld[3], -1);
-    }
-    Tagesmarken();
+    m_monat2->InZustand(s.Panel.MonthView2);
+    TextFeiertagGeaendert(s, m_textFeiertag->text());
+    KalenderpanelZeigen();
 }
 
 void FrmMain::FarbfeldGeklickt(int art) {
     const auto welche = static_cast<Tagesfarbe>(art);
-    Monatsansicht* ansicht = art < 2 ? m_monat1 : m_monat2;
-    const Tagesauswahl a{ansicht->Aktuell(), ansicht->SelStart(), ansicht->SelEnd()};
-    const int bisher = TagesfarbeLesen(s, welche, a.aktuell);
-    const int start = bisher < 0 ? 0xFFFFFF : bisher;
+    m_monat1->InZustand(s.Panel.MonthView1);
+    m_monat2->InZustand(s.Panel.MonthView2);
+    const int start = TagesfarbeStart(s, welche);
     const auto c = FarbeWaehlen(QColor(start & 0xFF, (start >> 8) & 0xFF, (start >> 16) & 0xFF));
     if (!c) return; // cancelled: nothing changes
-    const int farbe = AlsFarbe(*c);
-    TagesfarbeSetzen(s, welche, a, farbe);
-    FarbfeldZeigen(m_farbfeld[art], farbe);
+    TagesfarbeGewaehlt(s, welche, AlsFarbe(*c));
+    KalenderpanelZeigen();
     Neuzeichnen();
 }
 
-void FrmMain::Tagesmarken() {
-    // 31 marks per view for the month shown; short months roll over into the next, as the
-    // date arithmetic does.
-    auto marken = [this](Monatsansicht* v, bool termine) {
-        const int jahr = v->yearShown(), monat = v->monthShown();
-        for (int tag = 1; tag <= 31; ++tag) {
-            const QDate d = basic::DateSerial(jahr, monat, tag);
-            v->Fettdruck(d, termine ? !TerminText(s, d).isEmpty() : !FeiertagText(s, d).isEmpty());
-        }
-    };
-    marken(m_monat1, true);
-    marken(m_monat2, false);
-}
-
-void FrmMain::MonatsansichtenAufJahr() {
-    const int jahr = static_cast<int>(s.Kalenderjahr);
-    if (!JahrZulaessig(jahr)) return;
-    m_monat1->JahrSetzen(jahr);
-    m_monat2->JahrSetzen(jahr);
-}
-
-void FrmMain::JahrGetippt() {
-    const QString text = m_comboJahr->currentText();
-    const double jahr = basic::Val(text);
-    if (static_cast<long long>(jahr) == static_cast<long long>(s.Kalenderjahr)) return;
-    if (!JahrZulaessig(jahr)) {
-        Meldung(QStringLiteral("Bitte ein Jahr zwischen 1 und 9999 angeben."),
-                QStringLiteral("Kalenderjahr"));
+void FrmMain::JahrGetipptBefehl() {
+    const QString text = m_comboJahr->currentText().trimmed();
+    if (text == QString::number(static_cast<long long>(s.Kalenderjahr))) return;
+    if (!JahrGetippt(s, *this, text))
         m_comboJahr->setEditText(QString::number(static_cast<long long>(s.Kalenderjahr)));
-        return;
-    }
-    // A typed year is taken as it stands; the holidays are computed on request.
-    s.Kalenderjahr = jahr;
-    MonatsansichtenAufJahr();
-    PanelAktualisieren();
-    Neuzeichnen();
 }
 
 void FrmMain::JahrGeklickt(int index) {
-    const double jahr = basic::Val(m_comboJahr->itemText(index));
-    if (!JahrGewaehlt(s, *this, m_d, jahr)) return;
-    MonatsansichtenAufJahr();
-    TerminAngeklickt();
-    FeiertagAngeklickt();
+    const int jahr = static_cast<int>(basic::Val(m_comboJahr->itemText(index)));
+    JahrGewaehlt(s, *this, jahr); // shows the panel and redraws through the window
 }
 
 void FrmMain::SeiteGetippt() {
@@ -483,18 +492,15 @@ void FrmMain::SeiteGetippt() {
     if (SeiteWaehlen(s, e.seite)) Neuzeichnen();
 }
 
-void FrmMain::BilddateiGeaendert() {
-    const int monat = std::clamp(m_comboMonat->currentIndex() + 1, 1, 12);
+void FrmMain::Vorschaubild() {
+    // LeadKalender: a thumbnail of the month's picture while its file exists.
     const QString datei = m_textbilddatei->text();
-    s.Monatsbilder(monat) = datei;
-    s.Panel.Textbilddatei = datei;
-    if (!QFileInfo::exists(datei)) {
-        m_leadKalender->hide();
-        return;
+    QImage bild;
+    if (QFileInfo::exists(datei)) {
+        QImageReader leser(datei);
+        leser.setAutoTransform(true);
+        bild = leser.read();
     }
-    QImageReader leser(datei);
-    leser.setAutoTransform(true);
-    const QImage bild = leser.read();
     if (bild.isNull()) {
         m_leadKalender->hide();
         return;
@@ -502,8 +508,6 @@ void FrmMain::BilddateiGeaendert() {
     m_leadKalender->setPixmap(QPixmap::fromImage(
         bild.scaled(m_leadKalender->size(), Qt::KeepAspectRatio, Qt::SmoothTransformation)));
     m_leadKalender->show();
-    // The first month's picture is on the page at once; the others at the next redraw.
-    if (s.LadeSperre == 0 && m_comboMonat->currentText() == QLatin1String("Januar")) Neuzeichnen();
 }
 
 // ---- Help and printing ------------------------------------------------------------------------

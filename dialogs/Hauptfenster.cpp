@@ -3,10 +3,17 @@
 #include "Hauptfenster.h"
 #include "FrmMain.h"
 
+#include "calendar/Feiertage.h"
+#include "calendar/Kalenderdateien.h"
+#include "calendar/Tagesdaten.h"
 #include "core/AppState.h"
 #include "core/Dokumentdienste.h"
+#include "persist/Datensaetze.h"
+#include "persist/Einstellungen.h"
+#include "persist/Katalogdateien.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
@@ -15,6 +22,21 @@ namespace zp {
 
 Dokumentdienste VorhandeneDienste() {
     Dokumentdienste d;
+    d.LadeDaten = [](AppState& s, Oberflaeche& ui) { return LadeDaten(s, ui) == Ladeergebnis::Geladen; };
+    d.SpeichereDaten = [](AppState& s, Oberflaeche& ui) { return SpeichereDaten(s, ui); };
+    d.ImportKal = [](AppState& s, Oberflaeche& ui) {
+        return KalOeffnen(s, ui, s.Datendatei) == Ladeergebnis::Geladen;
+    };
+    d.SaveSettings = [](AppState& s, Oberflaeche& ui) { return SaveSettings(s, ui); };
+    d.SaveKalenderIni = [](AppState& s, Oberflaeche& ui) { return SaveKalenderIni(s, ui); };
+    d.SaveKartenformate = [](AppState& s, Oberflaeche& ui) { return SaveKartenformate(s, ui); };
+    d.LadeDatensaetze = [](AppState& s, Oberflaeche& ui) { return LadeDatensaetze(s, ui); };
+    d.SpeichereDatensaetze = [](AppState& s, Oberflaeche& ui) { return SpeichereDatensaetze(s, ui); };
+    d.CommandBerechnen = [](AppState& s, Oberflaeche&) {
+        CommandBerechnen(s);
+        return true;
+    };
+    d.KalenderNeu = [](AppState& s, Oberflaeche& ui) { return KalenderdatenNeu(s, ui); };
     return d;
 }
 
@@ -22,7 +44,7 @@ int StarteHauptfenster(AppState& s) {
     auto* app = qobject_cast<QApplication*>(QCoreApplication::instance());
     if (!app) return 1;
     QApplication::setApplicationDisplayName(s.Programmname);
-    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("zp"), QIcon(QStringLiteral(":/zp/zp.svg"))));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("zp")));
     QTranslator qtDeutsch;
     if (qtDeutsch.load(QLocale(QLocale::German, QLocale::Germany), QStringLiteral("qtbase"),
                        QStringLiteral("_"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))

@@ -6,6 +6,7 @@
 #include "core/Dokumentdienste.h"
 #include "core/Oberflaeche.h"
 #include "dialogs/FrmMain.h"
+#include "dialogs/Hauptfenster.h"
 #include "model/Objekte.h"
 
 #include <QStringList>
@@ -42,10 +43,9 @@ inline Dokumentdienste AlleDienste(Protokoll& p) {
     d.SaveKalenderIni = p.dienst("SaveKalenderIni");
     d.SaveKartenformate = p.dienst("SaveKartenformate");
     d.SpeichereDatensaetze = p.dienst("SpeichereDatensaetze");
-    d.LoadKalenderIni = p.dienst("LoadKalenderIni");
-    d.LoadKartenformate = p.dienst("LoadKartenformate");
     d.LadeDatensaetze = p.dienst("LadeDatensaetze");
     d.CommandBerechnen = p.dienst("CommandBerechnen");
+    d.KalenderNeu = VorhandeneDienste().KalenderNeu; // asks through the user, then empties
     return d;
 }
 
@@ -72,6 +72,10 @@ public:
     }
     void Meldung(const QString& text, const QString&, const QString& = {}) override { meldungen << text; }
     QString DateiWaehlen(const QString&, const QString& filter, bool) override {
+        filter_ = filter;
+        return datei;
+    }
+    QString QtDateiWaehlen(const QString&, const QString& filter) override {
         filter_ = filter;
         return datei;
     }

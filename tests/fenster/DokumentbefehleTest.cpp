@@ -65,23 +65,36 @@ TEST_F(Kalender, NeuMitNeinLaesstAllesStehen) {
     EXPECT_EQ(s.Datendatei, "/x/meine.zpd");
     EXPECT_EQ(ui.status, "unverändert");
     EXPECT_EQ(ui.fragen, QStringList{"Sollen die aktuellen Daten gelöscht werden?"});
+    EXPECT_TRUE(p.aufrufe.isEmpty());
 }
 
-TEST_F(Kalender, NeuMitJaLeertTageUndBehaeltMonatsbilder) {
+TEST_F(Kalender, NeuMitJaLeertDieTageUndLaedtKeinDesign) {
     s.Termine(3, 5) = "Geburtstag";
     s.TerminBack(3, 5) = 0x00FF00;
     s.Feiertage(1, 1) = "Neujahr";
-    s.Monatsbilder(2) = "februar.jpg";
     s.Panel.TextTitel = "Mein Jahr";
     EXPECT_TRUE(BefehlNeu(s, ui, d));
     EXPECT_TRUE(s.Termine(3, 5).isEmpty());
     EXPECT_EQ(s.TerminBack(3, 5), -1);
     EXPECT_TRUE(s.Feiertage(1, 1).isEmpty());
-    EXPECT_EQ(s.Monatsbilder(2), "februar.jpg");
     EXPECT_TRUE(s.Panel.TextTitel.isEmpty());
     EXPECT_EQ(s.Datendatei, s.Programmpfad + "neu.zpd");
-    EXPECT_EQ(ui.status, "Aktuelle Datei: " + s.Programmpfad + "neu.zpd");
-    EXPECT_TRUE(p.aufrufe.isEmpty()); // the calendar's New loads no design
+    EXPECT_EQ(ui.status, s.Programmpfad + "neu.zpd");
+    EXPECT_TRUE(p.aufrufe.isEmpty());
+}
+
+TEST(Neu, KartenLadenDasNeueDokument) {
+    AppState s;
+    Protokoll p;
+    Nutzer ui;
+    Grundzustand(s, "ZP Briefkopf", "/tmp/zp");
+    ui.standardAntwort = false;
+    EXPECT_FALSE(BefehlNeu(s, ui, AlleDienste(p)));
+    EXPECT_TRUE(p.aufrufe.isEmpty());
+    ui.standardAntwort = true;
+    EXPECT_TRUE(BefehlNeu(s, ui, AlleDienste(p)));
+    EXPECT_EQ(p.aufrufe, QStringList{"LoadDesign:||neu"});
+    EXPECT_EQ(s.LadeSperre, 0);
 }
 
 TEST_F(Kalender, OeffnenVergleichtDieEndungKlein) {
@@ -128,6 +141,15 @@ TEST_F(Kalender, SpeichernUnterVergleichtDieEndungGenau) {
     EXPECT_EQ(p.namen(), QStringList{"SpeichereDaten"});
     EXPECT_EQ(s.Datendatei, "/tmp/termine.zpd");
     EXPECT_EQ(s.AktuelleDatei, "/tmp/X.ZPD");
+}
+
+TEST_F(Kalender, OhneSchreiberWirdNichtsAlsGespeichertAusgegeben) {
+    d.SaveDesign = nullptr;
+    ui.vorgabeDatei = "/tmp/plan.zpk";
+    s.AktuelleDatei = "/tmp/alt.zpk";
+    EXPECT_FALSE(BefehlSpeichernUnter(s, ui, d, Dateidialog::SpeichernUnter));
+    EXPECT_EQ(s.AktuelleDatei, "/tmp/alt.zpk");
+    EXPECT_EQ(ui.meldungen.size(), 1);
 }
 
 TEST_F(Kalender, SpeichernSchreibtDesignUndDaten) {
@@ -185,7 +207,7 @@ TEST(Galerie, LaedtVorlageUndBehaeltDenEigenenDateinamen) {
     GalerieLaden(s, ui, AlleDienste(p), 2);
     EXPECT_EQ(p.aufrufe, QStringList{"LoadDesign:" + vorlage.fileName() + "||"});
     EXPECT_EQ(s.AktuelleDatei, "/home/ich/karte.zpv");
-    EXPECT_EQ(ui.status, "Aktuelle Datei: /home/ich/karte.zpv");
+    EXPECT_EQ(ui.status, "/home/ich/karte.zpv");
     // A row without its file loads nothing.
     p.aufrufe.clear();
     GalerieLaden(s, ui, AlleDienste(p), 7);
