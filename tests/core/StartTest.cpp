@@ -204,6 +204,7 @@ TEST(LadeStartzustand, EditionFilesAndStartDocument) {
     QTemporaryDir tmp3;
     AppState k = Gestartet(tmp3, QStringLiteral("Kalender"), ui);
     QFile::remove(tmp3.filePath(QStringLiteral("kal1.zpk")));
+    QFile::remove(tmp3.filePath(QStringLiteral("kal1v2.zpk"))); // shipped beside kal1.zpk
     k.Designvariante = QStringLiteral("v2");
     EXPECT_FALSE(LadeStartzustand(k, ui));
     EXPECT_TRUE(ui.liste.last().contains(u"kal1v2.zpk"));
@@ -222,10 +223,12 @@ TEST(Beenden, WritesTheEditionsFiles) {
     EXPECT_TRUE(LeseDatei(tmp.filePath(QStringLiteral("kal3.zpk")))->startsWith("ZP Datenfile\r\n"));
     EXPECT_TRUE(LeseDatei(tmp.filePath(QStringLiteral("kalender.ini")))->endsWith("\r\n1193046\r\n"));
     EXPECT_TRUE(LeseDatei(tmp.filePath(QStringLiteral("zp.ini")))->contains("Kalendertyp =  3\r\n"));
+    EXPECT_EQ(k.Datendatei, tmp.path() + QStringLiteral("/auto.zpd")); // the day data's safety copy
+    EXPECT_EQ(LeseDatei(k.Datendatei)->count("\r\n"), 2630);
 
     // A folder that can't be written: told, and the result says so.
     k.Programmpfad = tmp.filePath(QStringLiteral("weg/"));
     ui.liste.clear();
     EXPECT_FALSE(BeendenDateienSchreiben(k, ui));
-    EXPECT_EQ(ui.liste.size(), 3);
+    EXPECT_EQ(ui.liste.size(), 4);
 }
