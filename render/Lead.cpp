@@ -253,7 +253,23 @@ void Lead::Contrast(int wert) {
 void Lead::Saturation(int wert) {
     wert = std::clamp(wert, -1000, 1000);
     if (wert == 0 || !HatBild()) return;
-    d->Arbeitsbild().modulate(100.0, 100.0 + wert / 10.0, 100.0);
+    // Each colour moves away from (or towards) the pixel's grey of the same brightness: -1000 is
+    // grey, 1000 twice the colour. Done here rather than by the library's HSL round trip, which
+    // takes most of the time a large photograph needs for its corrections.
+    QImage q = d->Pixelbild();
+    const double faktor = 1.0 + wert / 1000.0;
+    auto kanal = [faktor](double c, double grau) {
+        return std::clamp(static_cast<int>(std::lround(grau + (c - grau) * faktor)), 0, 255);
+    };
+    for (int y = 0; y < q.height(); ++y) {
+        auto* zeile = reinterpret_cast<QRgb*>(q.scanLine(y));
+        for (int x = 0; x < q.width(); ++x) {
+            const QRgb p = zeile[x];
+            const double grau = 0.299 * qRed(p) + 0.587 * qGreen(p) + 0.114 * qBlue(p);
+            zeile[x] = qRgb(kanal(qRed(p), grau), kanal(qGreen(p), grau), kanal(qBlue(p), grau));
+        }
+    }
+    d->bitmap = std::move(q);
 }
 
 void Lead::Hue(int grad) {
