@@ -184,7 +184,9 @@ int FuehreStapellaufAus(const Kommandozeile& zeile, AppState& s, BatchOberflaech
         return 1;
     }
     Main(s, ordner, ui);
-    if (!LadeStartzustand(s, ui)) return 1;
+    // Without its start document the program still runs on the built-in one, as the window
+    // does; the run then ends with status 1.
+    LadeStartzustand(s, ui);
 
     for (const OptionAufruf& a : zeile.aufrufe) {
         if (a.option->art != OptionArt::Aktion) continue;

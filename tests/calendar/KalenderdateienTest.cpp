@@ -80,7 +80,7 @@ TEST(Zpd, BadFilesAreRefusedAndLeaveTheDocumentAlone) {
     QByteArray verschoben = gut; // a "-1" inside an appointment
     verschoben.prepend("A\r\n-1\r\nB");
     schlecht << verschoben;
-    QByteArray umbruch = gut; // a line break in a holiday
+    QByteArray umbruch = gut;                             // a line break in a holiday
     umbruch.insert(372 * 14, "Feiertag\r\nzweite Zeile"); // 372 empty appointments of 14 bytes
     schlecht << umbruch;
     for (const QByteArray& b : schlecht) {
