@@ -432,7 +432,11 @@ bool Lead::SaveBmp(const QString& datei, QString* fehler) const {
         return false;
     }
     const QByteArray bytes(static_cast<const char*>(blob.data()), static_cast<qsizetype>(blob.length()));
-    return SchreibeDateiAtomar(datei, bytes, fehler);
+    QString grund;
+    if (SchreibeDateiAtomar(datei, bytes, &grund)) return true;
+    if (fehler)
+        *fehler = QStringLiteral("Das Bild kann nicht unter „%1“ gespeichert werden (%2).").arg(datei, grund);
+    return false;
 }
 
 } // namespace zp

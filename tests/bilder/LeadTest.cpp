@@ -308,7 +308,7 @@ namespace {
 TEST(MitgelieferteMuster, AtLeastTwelvePatternsLoad) {
     Lead lead;
     for (int m = 1; m <= 12; ++m) {
-        const QString datei = MitgelieferteDaten(QString("must%1.jpg").arg(m));
+        const QString datei = MitgelieferteDaten(QString("programm/daten/must%1.jpg").arg(m));
         ASSERT_NO_THROW(lead.Load(datei)) << datei.toStdString();
         EXPECT_GE(lead.BitmapWidth(), 400);
         EXPECT_GT(Streuung(lead.Bitmap()), 1.0) << "plain, no pattern: " << datei.toStdString();
