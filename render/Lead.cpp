@@ -13,7 +13,6 @@
 #include <QFileInfo>
 #include <QImageReader>
 #include <QLocale>
-#include <QPainter>
 #include <algorithm>
 #include <cmath>
 #include <list>
