@@ -258,7 +258,7 @@ void Lead::Saturation(int wert) {
     QImage q = d->Pixelbild();
     const double faktor = 1.0 + wert / 1000.0;
     auto kanal = [faktor](double c, double grau) {
-        return std::clamp(static_cast<int>(std::lround(grau + (c - grau) * faktor)), 0, 255);
+        return static_cast<int>(std::clamp(grau + (c - grau) * faktor, 0.0, 255.0) + 0.5);
     };
     for (int y = 0; y < q.height(); ++y) {
         auto* zeile = reinterpret_cast<QRgb*>(q.scanLine(y));
