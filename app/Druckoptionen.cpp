@@ -37,7 +37,8 @@ bool LeseAdressen(const QString& text, Druckwahl& wahl, QString& fehler) {
         wahl.Bis = m.captured(2);
         return true;
     }
-    fehler = QStringLiteral("--adressen erwartet aktiv, alle, VON-BIS oder kategorie:TEXT, nicht \"%1\".").arg(text);
+    fehler = QStringLiteral("--adressen erwartet aktiv, alle, VON-BIS oder kategorie:TEXT, nicht \"%1\".")
+                 .arg(text);
     return false;
 }
 

@@ -1,6 +1,7 @@
 #include "Kalendertypen.h"
 
 #include "KalenderLauf.h"
+#include "Standarddesign.h"
 #include "core/AppState.h"
 #include "core/Oberflaeche.h"
 #include "core/runtime/Basic.h"
@@ -48,7 +49,11 @@ bool LadeArbeitsdesign(AppState& s, Oberflaeche& ui, const Designablage& ablage)
         QFileInfo::exists(Standarddesigndatei(s, typ, s.Designvariante)))
         KopiereStandard(s, ui, typ);
     s.LadeSperre = 255;
-    const bool geladen = ablage.laden ? ablage.laden(s) : false;
+    bool geladen = true;
+    if (ablage.laden && QFileInfo::exists(s.AktuelleDatei))
+        geladen = ablage.laden(s);
+    else // neither a working copy nor a shipped file: the built-in standard design of the type
+        BaueStandarddesign(s, typ, s.Designvariante == u"v2" ? 2 : 1);
     s.LadeSperre = 0;
     NachKalenderdesignLaden(s);
     ui.SeitentitelAktualisieren();

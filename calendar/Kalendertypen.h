@@ -21,7 +21,8 @@ class Oberflaeche;
 [[nodiscard]] QString VarianteAusText(const QString& eintrag);
 
 // How designs are written and read: the design file writer and reader on AktuelleDatei. Each
-// returns false after it has told the user what went wrong.
+// returns false after it has told the user what went wrong. Without a reader, or for a design
+// file that isn't there, the built-in standard design of the type stands in.
 struct Designablage {
     std::function<bool(AppState&)> speichern;
     std::function<bool(AppState&)> laden;

@@ -5,6 +5,7 @@
 #include <QFontMetrics>
 #include <QPaintDevice>
 #include <QPolygon>
+#include <QTextLayout>
 #include <algorithm>
 
 namespace zp {
@@ -295,15 +296,17 @@ void PainterCanvas::SchreibeText(int x, int y, const QString& text, const Zeiche
         p.drawText(0, zs.ascent, text);
     } else {
         // The same string in the same font comes a hundred times in a row for shadows and
-        // gradients: lay it out once.
-        if (!m_statischGueltig || m_statisch.text() != text || m_statischFont != zs.font) {
-            m_statisch.setText(text);
-            m_statisch.setTextFormat(Qt::PlainText);
-            m_statisch.setPerformanceHint(QStaticText::AggressiveCaching);
-            m_statischFont = zs.font;
-            m_statischGueltig = true;
+        // gradients: shape it once.
+        if (!m_satz || m_satz->text() != text || m_satzFont != zs.font) {
+            m_satz = std::make_unique<QTextLayout>(text, zs.font);
+            m_satz->setCacheEnabled(true);
+            m_satz->beginLayout();
+            QTextLine zeile = m_satz->createLine();
+            zeile.setPosition(QPointF(0, 0));
+            m_satz->endLayout();
+            m_satzFont = zs.font;
         }
-        p.drawStaticText(0, 0, m_statisch);
+        m_satz->draw(&p, QPointF(0, 0));
     }
     p.setTransform(alt);
 }

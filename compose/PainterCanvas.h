@@ -8,7 +8,7 @@
 
 #include <QFont>
 #include <QPainter>
-#include <QStaticText>
+#include <QTextLayout>
 #include <memory>
 #include <optional>
 
@@ -112,9 +112,8 @@ private:
     int m_cacheBoxStil = -1;
     int m_cacheBoxExtra = -1;
     Zeichensatz m_boxSchrift;
-    QStaticText m_statisch;
-    QFont m_statischFont;
-    bool m_statischGueltig = false;
+    std::unique_ptr<QTextLayout> m_satz;
+    QFont m_satzFont;
 };
 
 } // namespace zp

@@ -17,9 +17,9 @@ RecordingCanvas::RecordingCanvas(CanvasArt art, double twipsProPixelX, double tw
     : m_art(art), m_tppX(twipsProPixelX > 0 ? twipsProPixelX : 15),
       m_tppY(twipsProPixelY > 0 ? twipsProPixelY : 15), m_pixel(pixel) {}
 
-std::vector<Aufruf> RecordingCanvas::Alle(const std::string& name) const {
-    std::vector<Aufruf> r;
-    for (const Aufruf& a : Aufrufe)
+std::vector<CanvasAufruf> RecordingCanvas::Alle(const std::string& name) const {
+    std::vector<CanvasAufruf> r;
+    for (const CanvasAufruf& a : Aufrufe)
         if (a.Name == name) r.push_back(a);
     return r;
 }
@@ -27,13 +27,13 @@ std::vector<Aufruf> RecordingCanvas::Alle(const std::string& name) const {
 std::vector<std::string> RecordingCanvas::Namen() const {
     std::vector<std::string> r;
     r.reserve(Aufrufe.size());
-    for (const Aufruf& a : Aufrufe)
+    for (const CanvasAufruf& a : Aufrufe)
         r.push_back(a.Name);
     return r;
 }
 
-Aufruf& RecordingCanvas::Neu(const std::string& name, std::vector<int> werte) {
-    Aufruf a;
+CanvasAufruf& RecordingCanvas::Neu(const std::string& name, std::vector<int> werte) {
+    CanvasAufruf a;
     a.Name = name;
     a.Werte = std::move(werte);
     a.ForeColor = ForeColor;
@@ -77,7 +77,7 @@ void RecordingCanvas::Cls() {
 }
 
 void RecordingCanvas::Line(double x1, double y1, double x2, double y2, CanvasFarbe farbe, LineForm form) {
-    Aufruf& a = Neu("Line", {PxX(x1), PxY(y1), PxX(x2), PxY(y2)});
+    CanvasAufruf& a = Neu("Line", {PxX(x1), PxY(y1), PxX(x2), PxY(y2)});
     a.Form = form;
     if (farbe >= 0) a.ForeColor = farbe;
     CurrentX = x2;
@@ -85,12 +85,12 @@ void RecordingCanvas::Line(double x1, double y1, double x2, double y2, CanvasFar
 }
 
 void RecordingCanvas::Circle(double x, double y, double r, CanvasFarbe farbe) {
-    Aufruf& a = Neu("Circle", {PxX(x), PxY(y), PxX(r)});
+    CanvasAufruf& a = Neu("Circle", {PxX(x), PxY(y), PxX(r)});
     if (farbe >= 0) a.ForeColor = farbe;
 }
 
 void RecordingCanvas::Print(const QString& text) {
-    Aufruf& a = Neu("Print", {PxX(CurrentX), PxY(CurrentY)});
+    CanvasAufruf& a = Neu("Print", {PxX(CurrentX), PxY(CurrentY)});
     a.Text = text;
     a.Schrift = TextSchrift();
     CurrentX = 0;
@@ -141,7 +141,7 @@ void RecordingCanvas::DeleteObject(GdiHandle handle) {
 QSize RecordingCanvas::GetTextExtentPoint32A(const QString& text) {
     const int em = EmHoehe(TextSchrift());
     const int cx = static_cast<int>(text.size()) * ((em + 1) / 2 + m_zeichenabstand);
-    Aufruf& a = Neu("GetTextExtentPoint32A", {cx, em});
+    CanvasAufruf& a = Neu("GetTextExtentPoint32A", {cx, em});
     a.Text = text;
     a.Schrift = TextSchrift();
     return QSize(cx, em);
@@ -166,7 +166,7 @@ int RecordingCanvas::SetTextCharacterExtra(int n) {
 }
 
 void RecordingCanvas::TextOutA(int x, int y, const QString& text) {
-    Aufruf& a = Neu("TextOutA", {x, y});
+    CanvasAufruf& a = Neu("TextOutA", {x, y});
     a.Text = text;
     a.Schrift = TextSchrift();
 }

@@ -13,7 +13,7 @@
 
 namespace zp {
 
-struct Aufruf {
+struct CanvasAufruf {
     std::string Name;           // the operation, e.g. "Rectangle", "TextOutA", "Line"
     std::vector<int> Werte;     // integer arguments, device pixels
     std::vector<QPoint> Punkte; // point lists of Polyline, Polygon and CreatePolygonRgn
@@ -36,10 +36,10 @@ public:
     explicit RecordingCanvas(CanvasArt art = CanvasArt::Bildschirm, double twipsProPixelX = 15,
                              double twipsProPixelY = 15, QSize pixel = QSize(1000, 1400));
 
-    std::vector<Aufruf> Aufrufe;
+    std::vector<CanvasAufruf> Aufrufe;
 
     // The calls of one operation, in order.
-    [[nodiscard]] std::vector<Aufruf> Alle(const std::string& name) const;
+    [[nodiscard]] std::vector<CanvasAufruf> Alle(const std::string& name) const;
     // Names of all calls, in order (to check the order of operations).
     [[nodiscard]] std::vector<std::string> Namen() const;
     // Fonts and regions created and not freed.
@@ -90,7 +90,7 @@ public:
     void EndDoc() override;
 
 private:
-    Aufruf& Neu(const std::string& name, std::vector<int> werte = {});
+    CanvasAufruf& Neu(const std::string& name, std::vector<int> werte = {});
     [[nodiscard]] int PxX(double twips) const;
     [[nodiscard]] int PxY(double twips) const;
     [[nodiscard]] LogFont BoxSchrift() const;

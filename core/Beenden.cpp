@@ -16,8 +16,7 @@ bool BeendenDateienSchreiben(AppState& s, Oberflaeche& ui) {
     ok = SaveSettings(s, ui) && ok;
     if (s.IstKalender != 0) {
         ok = SaveKalenderIni(s, ui) && ok;
-        // The day data always go to auto.zpd, not to the file the user opened.
-        ok = SpeichereAutoDaten(s, ui) && ok;
+        ok = SpeichereAutoDaten(s, ui) && ok; // the day data's safety copy auto.zpd
         // The calendar's design goes back to the working design of its type and variant.
         s.AktuelleDatei = KalenderDesigndatei(s);
         ok = SaveDesign(s, ui) && ok;

@@ -4,6 +4,7 @@
 #include "core/Datensatzbefehle.h"
 #include "core/Oberflaeche.h"
 #include "core/runtime/TextDatei.h"
+#include "persist/Dateimeldungen.h"
 #include "persist/Import.h"
 
 #include <QFileInfo>
@@ -34,8 +35,7 @@ bool Importieren(AppState& s, Oberflaeche& ui, const QString& datei) {
     try {
         d = txt ? LeseTextImport(*bytes) : LeseEtiImport(*bytes);
     } catch (const FormatFehler& f) {
-        ui.Meldung(QStringLiteral("Falsches Datenformat"), QStringLiteral("Warnung!"),
-                   QStringLiteral("%1, Zeile %2: %3").arg(datei).arg(f.zeile).arg(f.grund));
+        MeldeFalschesFormat(ui, datei, {f.zeile, f.grund});
         return false;
     }
     if (d.DatensatzAnzahl < 1) {

@@ -2,6 +2,7 @@
 
 #include "AppState.h"
 #include "Oberflaeche.h"
+#include "core/Datensatzbefehle.h"
 #include "core/runtime/Basic.h"
 #include "model/Objekte.h"
 #include "persist/Datensaetze.h"
@@ -249,7 +250,10 @@ bool LadeStartzustand(AppState& s, Oberflaeche& ui) {
         s.AktuelleDatei = KalenderDesigndatei(s);
     else
         s.Ladevorgabe = QStringLiteral("neu");
-    return LoadDesign(s, ui);
+    const bool geladen = LoadDesign(s, ui);
+    // Last: the record on view fills the panel boxes 21 to 30 and the texts that show them.
+    if (s.IstKalender == 0) ZeigeDatensatz(s, ui);
+    return geladen;
 }
 
 } // namespace zp

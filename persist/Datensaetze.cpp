@@ -4,6 +4,7 @@
 #include "core/Oberflaeche.h"
 #include "core/runtime/Basic.h"
 #include "core/runtime/TextDatei.h"
+#include "persist/Dateimeldungen.h"
 
 #include <algorithm>
 #include <cmath>
@@ -73,8 +74,7 @@ bool LadeDatensaetze(AppState& s, Oberflaeche& ui) {
             return false;
         }
     } catch (const FormatFehler& f) {
-        ui.Meldung(QStringLiteral("Falsches Datenformat"), QStringLiteral("Warnung!"),
-                   QStringLiteral("%1, Zeile %2: %3").arg(pfad).arg(f.zeile).arg(f.grund));
+        MeldeFalschesFormat(ui, pfad, {f.zeile, f.grund});
         return false;
     }
     // An empty database still offers one blank record to type into.
@@ -92,8 +92,7 @@ bool SpeichereDatensaetze(const AppState& s, Oberflaeche& ui) {
     const QString pfad = s.Programmpfad + QStringLiteral("daten.dat");
     QString fehler;
     if (SchreibeDateiAtomar(pfad, SchreibeDatenbank(s), &fehler)) return true;
-    ui.Meldung(QStringLiteral("Die Adressen konnten nicht gespeichert werden."), QStringLiteral("Warnung!"),
-               QStringLiteral("%1: %2").arg(pfad, fehler));
+    MeldeSchreibfehler(ui, pfad, fehler);
     return false;
 }
 

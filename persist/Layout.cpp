@@ -4,6 +4,7 @@
 #include "core/Oberflaeche.h"
 #include "core/runtime/Basic.h"
 #include "core/runtime/TextDatei.h"
+#include "persist/Dateimeldungen.h"
 
 #include <QFileInfo>
 
@@ -157,13 +158,11 @@ bool LadeLayout(AppState& s, Oberflaeche& ui) {
     }
     try {
         if (WendeLayoutAn(s, *bytes, QFileInfo(pfad).fileName()) == LayoutLesung::FremderKopf) {
-            ui.Meldung(QStringLiteral("Falsches Datenformat"), QStringLiteral("Warnung!"),
-                       QStringLiteral("%1, Zeile 1").arg(pfad));
+            MeldeFalschesFormat(ui, pfad, {1, QStringLiteral("Die Datei ist kein Layout.")});
             return false;
         }
     } catch (const FormatFehler& f) {
-        ui.Meldung(QStringLiteral("Falsches Datenformat"), QStringLiteral("Warnung!"),
-                   QStringLiteral("%1, Zeile %2: %3").arg(pfad).arg(f.zeile).arg(f.grund));
+        MeldeFalschesFormat(ui, pfad, {f.zeile, f.grund});
         return false;
     }
     s.RahmenNummer = 1;

@@ -12,9 +12,10 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
-#include <QPainter>
+#include <QLocale>
 #include <algorithm>
 #include <cmath>
+#include <list>
 #include <mutex>
 #include <optional>
 #include <random>
@@ -48,14 +49,29 @@ void SeiteZuruecksetzen(Magick::Image& bild) {
     bild.page(Magick::Geometry(0, 0, 0, 0));
 }
 
+// Turning and shearing enlarge the bitmap; beyond twice the load limit they are refused.
+void PruefeWachstum(double breite, double hoehe, qint64 grenze) {
+    if (breite * hoehe > 2.0 * static_cast<double>(grenze))
+        throw LeadFehler(
+            QStringLiteral("Das gedrehte oder verzerrte Bild wäre mit %1 x %2 Bildpunkten zu groß.")
+                .arg(std::ceil(breite), 0, 'f', 0)
+                .arg(std::ceil(hoehe), 0, 'f', 0));
+}
+
 } // namespace
 
 struct Lead::Daten {
     std::optional<Magick::Image> magick; // the working form while corrections run
     mutable QImage bitmap;               // the painted form; null while `magick` is newer
-    mutable QImage reduziert;            // the last reduction for Render
-    mutable qint64 reduziertVon = 0;     // cacheKey of the bitmap it was made from
-    mutable QSize reduziertGroesse;
+    // The last reductions for Render, newest first: the page's control paints several pictures
+    // in turn (background, frames), each at its own size.
+    struct Reduktion {
+        qint64 von = 0; // cacheKey of the bitmap it was made from
+        QSize groesse;
+        QImage bild;
+    };
+    mutable std::list<Reduktion> reduktionen;
+    static constexpr size_t MaxReduktionen = 8;
 
     Magick::Image& Arbeitsbild() {
         if (!magick) {
@@ -120,14 +136,14 @@ void Lead::Load(const QString& datei) {
     const QString zuGross = QStringLiteral("Das Bild \"%1\" ist zu groß. Es können höchstens %2 Millionen "
                                            "Bildpunkte geladen werden.")
                                 .arg(datei)
-                                .arg(MaxBildpunkte / 1'000'000);
+                                .arg(QLocale(QLocale::German).toString(Bildpunktgrenze / 1e6, 'g', 3));
     {
         // Qt reads the size from the header of the common formats without decoding a pixel.
         QBuffer puffer;
         puffer.setData(bytes);
         QImageReader leser(&puffer);
         const QSize groesse = leser.size();
-        if (groesse.isValid() && static_cast<qint64>(groesse.width()) * groesse.height() > MaxBildpunkte)
+        if (groesse.isValid() && static_cast<qint64>(groesse.width()) * groesse.height() > Bildpunktgrenze)
             throw LeadFehler(zuGross);
     }
     try {
@@ -156,7 +172,7 @@ void Lead::Load(const QString& datei) {
     const qint64 hoehe = static_cast<qint64>(kopf.rows());
     if (breite <= 0 || hoehe <= 0)
         throw LeadFehler(QStringLiteral("Die Datei \"%1\" enthält kein Bild.").arg(datei));
-    if (breite * hoehe > MaxBildpunkte)
+    if (breite * hoehe > Bildpunktgrenze)
         throw LeadFehler(zuGross + QStringLiteral(" (%1 x %2 Bildpunkte)").arg(breite).arg(hoehe));
 
     Magick::Image bild;
@@ -205,6 +221,10 @@ void Lead::Rotate(int hundertstelGrad, bool vergroessern, QRgb fuellfarbe) {
     if (winkel == 0 || !HatBild()) return;
     Magick::Image& m = d->Arbeitsbild();
     const size_t w = m.columns(), h = m.rows();
+    const double bogen = winkel / 100.0 * M_PI / 180.0;
+    if (vergroessern)
+        PruefeWachstum(w * std::abs(std::cos(bogen)) + h * std::abs(std::sin(bogen)),
+                       w * std::abs(std::sin(bogen)) + h * std::abs(std::cos(bogen)), Bildpunktgrenze);
     m.backgroundColor(MagickFarbe(fuellfarbe));
     m.rotate(winkel / 100.0);
     SeiteZuruecksetzen(m);
@@ -232,7 +252,23 @@ void Lead::Contrast(int wert) {
 void Lead::Saturation(int wert) {
     wert = std::clamp(wert, -1000, 1000);
     if (wert == 0 || !HatBild()) return;
-    d->Arbeitsbild().modulate(100.0, 100.0 + wert / 10.0, 100.0);
+    // Each colour moves away from (or towards) the pixel's grey of the same brightness: -1000 is
+    // grey, 1000 twice the colour. Done here rather than by the library's HSL round trip, which
+    // takes most of the time a large photograph needs for its corrections.
+    QImage q = d->Pixelbild();
+    const double faktor = 1.0 + wert / 1000.0;
+    auto kanal = [faktor](double c, double grau) {
+        return static_cast<int>(std::clamp(grau + (c - grau) * faktor, 0.0, 255.0) + 0.5);
+    };
+    for (int y = 0; y < q.height(); ++y) {
+        auto* zeile = reinterpret_cast<QRgb*>(q.scanLine(y));
+        for (int x = 0; x < q.width(); ++x) {
+            const QRgb p = zeile[x];
+            const double grau = 0.299 * qRed(p) + 0.587 * qGreen(p) + 0.114 * qBlue(p);
+            zeile[x] = qRgb(kanal(qRed(p), grau), kanal(qGreen(p), grau), kanal(qBlue(p), grau));
+        }
+    }
+    d->bitmap = std::move(q);
 }
 
 void Lead::Hue(int grad) {
@@ -313,6 +349,11 @@ void Lead::Shear(int grad, bool horizontal, QRgb fuellfarbe) {
     grad = std::clamp(grad, -45, 45);
     if (grad == 0 || !HatBild()) return;
     Magick::Image& m = d->Arbeitsbild();
+    const double schraeg = std::abs(std::tan(grad * M_PI / 180.0));
+    if (horizontal)
+        PruefeWachstum(m.columns() + m.rows() * schraeg, m.rows(), Bildpunktgrenze);
+    else
+        PruefeWachstum(m.columns(), m.rows() + m.columns() * schraeg, Bildpunktgrenze);
     m.backgroundColor(MagickFarbe(fuellfarbe));
     if (horizontal)
         m.shear(grad, 0.0);
@@ -356,12 +397,18 @@ void Lead::Render(Canvas& ziel, const QRectF& twips) const {
         ziel.RenderBild(bild, twips);
         return;
     }
-    if (d->reduziert.isNull() || d->reduziertVon != bild.cacheKey() || d->reduziertGroesse != geraet) {
-        d->reduziert = bild.scaled(geraet, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        d->reduziertVon = bild.cacheKey();
-        d->reduziertGroesse = geraet;
+    auto& liste = d->reduktionen;
+    for (auto it = liste.begin(); it != liste.end(); ++it) {
+        if (it->von == bild.cacheKey() && it->groesse == geraet) {
+            liste.splice(liste.begin(), liste, it);
+            ziel.RenderBild(liste.front().bild, twips);
+            return;
+        }
     }
-    ziel.RenderBild(d->reduziert, twips);
+    liste.push_front(
+        {bild.cacheKey(), geraet, bild.scaled(geraet, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)});
+    if (liste.size() > Daten::MaxReduktionen) liste.pop_back();
+    ziel.RenderBild(liste.front().bild, twips);
 }
 
 bool Lead::SaveBmp(const QString& datei, QString* fehler) const {
@@ -384,7 +431,11 @@ bool Lead::SaveBmp(const QString& datei, QString* fehler) const {
         return false;
     }
     const QByteArray bytes(static_cast<const char*>(blob.data()), static_cast<qsizetype>(blob.length()));
-    return SchreibeDateiAtomar(datei, bytes, fehler);
+    QString grund;
+    if (SchreibeDateiAtomar(datei, bytes, &grund)) return true;
+    if (fehler)
+        *fehler = QStringLiteral("Das Bild kann nicht unter „%1“ gespeichert werden (%2).").arg(datei, grund);
+    return false;
 }
 
 } // namespace zp

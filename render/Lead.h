@@ -37,9 +37,11 @@ public:
     Lead(const Lead&) = delete;
     Lead& operator=(const Lead&) = delete;
 
-    // The largest picture accepted, in pixels (before rotation and shear). A 40-megapixel picture
-    // takes about half a gigabyte while it is corrected; larger ones are refused with a message.
+    // The largest picture accepted, in pixels. A 40-megapixel picture takes about half a gigabyte
+    // while it is corrected; larger ones are refused with a message, and rotation and shear may
+    // at most double it.
     static constexpr qint64 MaxBildpunkte = 40'000'000;
+    qint64 Bildpunktgrenze = MaxBildpunkte;
 
     // Reads the first frame of a BMP, JPEG, PNG, PCX or WMF file. A picture with transparency is
     // laid on white. On failure the control keeps its former bitmap.

@@ -50,15 +50,6 @@ TEST(TextImport, SeparatorsByLine) {
     EXPECT_EQ(d.Datensaetze.Obergrenze1(), 30);
 }
 
-TEST(TextImport, TabStaysTheSeparatorForALineWithoutOne) {
-    // After a tab line, a line with neither keeps the tab; its ";" of a later line takes over again.
-    const ImportDaten d = LeseTextImport("a\tb\nnichts\nx;y\tz\nc;d\n");
-    ASSERT_EQ(d.DatensatzAnzahl, 4);
-    EXPECT_EQ(d.Datensaetze(1, 2), u"nichts");
-    EXPECT_EQ(d.Datensaetze(1, 3), u"x;y");
-    EXPECT_EQ(d.Datensaetze(2, 4), u"d");
-}
-
 TEST(TextImport, TwentyFieldsAtMost) {
     QStringList felder;
     for (int f = 1; f <= 25; ++f)
@@ -159,27 +150,3 @@ TEST(Importieren, OldLabelFileBringsItsTexts) {
     EXPECT_EQ(s.Datensaetze(1, 1), u"Anna");
 }
 
-TEST(Importieren, TenThousandLines) {
-    QTemporaryDir dir;
-    QByteArray inhalt;
-    for (int i = 1; i <= 10000; ++i)
-        inhalt += "Name " + QByteArray::number(i) + ";Weg " + QByteArray::number(i) + "\tOrt\r\n";
-    const QString txt = dir.filePath(QStringLiteral("viele.txt"));
-    ASSERT_TRUE(SchreibeDateiAtomar(txt, inhalt));
-    AppState s;
-    test::ProtokollOberflaeche ui;
-    ASSERT_TRUE(Importieren(s, ui, txt));
-    EXPECT_EQ(s.DatensatzAnzahl, 10000);
-    EXPECT_EQ(s.Datensaetze(1, 10000), u"Name 10000;Weg 10000");
-    EXPECT_EQ(s.Datensaetze(2, 10000), u"Ort");
-}
-
-TEST(Importieren, FilterByEdition) {
-    AppState s;
-    EXPECT_TRUE(ImportFilter(s).isEmpty());
-    s.IstEtikett = -1;
-    EXPECT_EQ(ImportFilter(s), u"ZP Etikett 3 (*.eti);;Textdatei (*.txt)");
-    s.IstEtikett = 0;
-    s.IstVisitenkarte = -1;
-    EXPECT_EQ(ImportFilter(s), u"ZP Visitenkarte 6(*.vis)");
-}

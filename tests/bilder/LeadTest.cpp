@@ -2,13 +2,18 @@
 // operation changes the picture in its own direction.
 #include "render/Lead.h"
 #include "Bildhilfe.h"
+#include "Protokollcanvas.h"
 #include "common/TestHilfe.h"
+
+#include <Magick++.h>
+#undef Intensity // the library's deprecated pixel macro would hide the control's operation
 
 #include <QBuffer>
 #include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <cmath>
 
 using namespace zp;
@@ -227,6 +232,8 @@ TEST(LeadLaden, BadFilesThrowAGermanMessageAndKeepTheFormerBitmap) {
     riesig[0] = 'B', riesig[1] = 'M';
     le32(2, 54), le32(10, 54), le32(14, 40), le32(18, 30000), le32(22, 30000);
     riesig[26] = 1, riesig[28] = 24;
+    QByteArray nichts = riesig; // the same header for 0 x 0 pixels
+    nichts.replace(18, 8, QByteArray(8, '\0'));
 
     QByteArray jpeg;
     {
@@ -239,6 +246,7 @@ TEST(LeadLaden, BadFilesThrowAGermanMessageAndKeepTheFormerBitmap) {
         {schreibe("leer.jpg", {}), "leer"},
         {schreibe("text.jpg", "Das ist kein Bild, nur Text.\r\n"), "geladen"},
         {schreibe("riesig.bmp", riesig), "zu groß"},
+        {schreibe("leer.bmp", nichts), "Bild"},
         {schreibe("kaputt.png", QByteArray("\x89PNG\r\n\x1a\n", 8) + QByteArray(40, 'x')), "geladen"},
     };
     for (const auto& [datei, teil] : faelle) {
@@ -288,46 +296,13 @@ TEST(LeadSpeichern, BmpHoldsTheBitmapIn24Bits) {
 TEST(LeadRender, ReducesLargeBitmapsToTheDeviceSize) {
     Lead lead;
     lead.SetzeBitmap(Testbild(600, 400));
-    struct Ziel : Canvas {
-        QImage zuletzt;
-        QRectF rechteck;
-        CanvasArt Art() const override { return CanvasArt::Bildschirm; }
-        double Width() const override { return 0; }
-        double Height() const override { return 0; }
-        double TwipsPerPixelX() const override { return 15; }
-        double TwipsPerPixelY() const override { return 15; }
-        void Cls() override {}
-        void Line(double, double, double, double, CanvasFarbe, LineForm) override {}
-        void Circle(double, double, double, CanvasFarbe) override {}
-        void Print(const QString&) override {}
-        double TextWidth(const QString&) override { return 0; }
-        double TextHeight(const QString&) override { return 0; }
-        void SetWindowOrgEx(int, int) override {}
-        void OffsetWindowOrgEx(int, int) override {}
-        QPoint WindowOrg() const override { return {}; }
-        void SetBkMode(bool) override {}
-        GdiHandle CreateFontIndirectA(const LogFont&) override { return 0; }
-        GdiHandle SelectObject(GdiHandle) override { return 0; }
-        void DeleteObject(GdiHandle) override {}
-        QSize GetTextExtentPoint32A(const QString&) override { return {}; }
-        int GetDeviceCaps(int) const override { return 96; }
-        int SetTextCharacterExtra(int) override { return 0; }
-        void TextOutA(int, int, const QString&) override {}
-        GdiHandle CreateRectRgn(int, int, int, int) override { return 0; }
-        GdiHandle CreatePolygonRgn(const std::vector<QPoint>&, PolyFillMode) override { return 0; }
-        void SelectClipRgn(GdiHandle) override {}
-        void OffsetClipRgn(int, int) override {}
-        void Polyline(const std::vector<QPoint>&) override {}
-        void Polygon(const std::vector<QPoint>&) override {}
-        void Rectangle(int, int, int, int) override {}
-        void Ellipse(int, int, int, int) override {}
-        void RenderBild(const QImage& b, const QRectF& t) override { zuletzt = b, rechteck = t; }
-    } ziel;
+    Protokollcanvas ziel;                            // 15 twips per pixel
     lead.Render(ziel, QRectF(150, 300, 1500, 1500)); // 100 x 100 device pixels
-    EXPECT_EQ(ziel.zuletzt.size(), QSize(100, 100));
-    EXPECT_EQ(ziel.rechteck, QRectF(150, 300, 1500, 1500));
+    ASSERT_EQ(ziel.protokoll.size(), 1u);
+    EXPECT_EQ(ziel.protokoll[0].bild.size(), QSize(100, 100));
+    EXPECT_EQ(ziel.protokoll[0].twips, QRectF(150, 300, 1500, 1500));
     lead.Render(ziel, QRectF(0, 0, 9000, 6000)); // as large as the bitmap: handed over whole
-    EXPECT_EQ(ziel.zuletzt.size(), QSize(600, 400));
+    EXPECT_EQ(ziel.protokoll[1].bild.size(), QSize(600, 400));
 }
 
 } // namespace
@@ -336,10 +311,102 @@ namespace {
 TEST(MitgelieferteMuster, AtLeastTwelvePatternsLoad) {
     Lead lead;
     for (int m = 1; m <= 12; ++m) {
-        const QString datei = MitgelieferteDaten(QString("must%1.jpg").arg(m));
+        const QString datei = MitgelieferteDaten(QString("programm/daten/must%1.jpg").arg(m));
         ASSERT_NO_THROW(lead.Load(datei)) << datei.toStdString();
         EXPECT_GE(lead.BitmapWidth(), 400);
         EXPECT_GT(Streuung(lead.Bitmap()), 1.0) << "plain, no pattern: " << datei.toStdString();
+    }
+}
+} // namespace
+
+namespace {
+TEST(LeadFormate, TheDialogsFormatsLoad) {
+    QTemporaryDir tmp;
+    const QDir ordner(tmp.path());
+    const QImage bild = Testbild(24, 16);
+    Lead lead;
+    for (const char* format : {"BMP", "PNG"}) {
+        lead.Load(Speichere(bild, ordner, QString("bild.") + format));
+        EXPECT_EQ(lead.Bitmap(), bild) << format;
+    }
+    lead.Load(Speichere(bild, ordner, "bild.jpg")); // lossy: only the size and the colours roughly
+    EXPECT_EQ(lead.Bitmap().size(), bild.size());
+    EXPECT_NEAR(MittlereHelligkeit(lead.Bitmap()), MittlereHelligkeit(bild), 3);
+
+    // PCX as the picture library writes it.
+    Lead quelle;
+    quelle.SetzeBitmap(bild);
+    ASSERT_TRUE(quelle.SaveBmp(ordner.filePath("quelle.bmp")));
+    {
+        Magick::Image pcx(ordner.filePath("quelle.bmp").toStdString());
+        pcx.write(ordner.filePath("bild.pcx").toStdString());
+    }
+    lead.Load(ordner.filePath("bild.pcx"));
+    EXPECT_EQ(lead.Bitmap(), bild);
+
+    // A placeable metafile of 200 x 100 twips: a rectangle in red over the whole picture.
+    const QByteArray wmf = QByteArray::fromHex(
+        "d7cdc69a000000000000c8006400a005000000001d52010009000003280000000100070000000000050000000b02000000"
+        "00050000000c026400c80007000000fc020000ff0000000000040000002d010000070000001b046400c80000000000030000"
+        "00"
+        "0000");
+    QFile f(ordner.filePath("bild.wmf"));
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write(wmf);
+    f.close();
+    lead.Load(f.fileName());
+    ASSERT_GT(lead.BitmapWidth(), 0);
+    EXPECT_EQ(lead.BitmapWidth(), 2 * lead.BitmapHeight());
+    const QRgb mitte = lead.Bitmap().pixel(lead.BitmapWidth() / 2, lead.BitmapHeight() / 2);
+    EXPECT_GT(qRed(mitte), 200);
+    EXPECT_LT(qGreen(mitte), 60);
+}
+
+TEST(LeadWerte, AbsurdValuesAreHeldToTheirRange) {
+    QTemporaryDir tmp;
+    Lead lead;
+    const QString datei = Speichere(Testbild(20, 12), QDir(tmp.path()), "b.png");
+    for (int wert : {INT_MIN, -100000, 100000, INT_MAX}) {
+        lead.Load(datei);
+        lead.Rotate(wert, true, 0xFFFFFFFF);
+        lead.Intensity(wert);
+        lead.Contrast(wert);
+        lead.Saturation(wert);
+        lead.Hue(wert);
+        lead.Sharpen(wert);
+        lead.AddNoise(wert, 0);
+        lead.Mosaic(wert);
+        lead.Shear(wert, wert > 0, 0xFFFFFFFF);
+        EXPECT_GT(lead.BitmapWidth(), 0) << wert;
+        EXPECT_LT(lead.BitmapWidth(), 200) << wert;
+    }
+}
+} // namespace
+
+namespace {
+TEST(LeadGrenze, PicturesAboveTheLimitAndTooLargeTurnsAreRefused) {
+    QTemporaryDir tmp;
+    Lead lead;
+    lead.Bildpunktgrenze = 5000; // 100 x 50 fits exactly
+    const QString datei = Speichere(Testbild(100, 50), QDir(tmp.path()), "b.png");
+    lead.Load(datei);
+    lead.Rotate(9000, true, 0xFFFFFFFF); // a quarter turn keeps the area
+    EXPECT_EQ(lead.BitmapWidth(), 50);
+
+    lead.Load(datei);
+    // 45 degrees: (100 + 50) x 0.71 squared = 11 250 pixels, more than twice the limit.
+    EXPECT_THROW(lead.Rotate(4500, true, 0xFFFFFFFF), LeadFehler);
+    EXPECT_EQ(lead.BitmapWidth(), 100);                          // the picture stays as it was
+    EXPECT_THROW(lead.Shear(45, false, 0xFFFFFFFF), LeadFehler); // 100 x 150
+    lead.Shear(20, false, 0xFFFFFFFF);                           // 100 x 86: within twice the limit
+    EXPECT_NEAR(lead.BitmapHeight(), 86, 2);
+
+    lead.Bildpunktgrenze = 4999;
+    try {
+        lead.Load(datei);
+        ADD_FAILURE() << "ohne Fehler geladen";
+    } catch (const LeadFehler& e) {
+        EXPECT_TRUE(e.Text().contains("zu groß")) << e.Text().toStdString();
     }
 }
 } // namespace

@@ -31,7 +31,16 @@ public:
     double TwipsPerPixelX() const override { return m_tpp; }
     double TwipsPerPixelY() const override { return m_tpp; }
     void Cls() override { protokoll.push_back({"Cls", {}, {}, {}, ForeColor, FillColor, FillStyle}); }
-    void Line(double, double, double, double, CanvasFarbe, LineForm) override {}
+    void Line(double x1, double y1, double x2, double y2, CanvasFarbe farbe, LineForm) override {
+        protokoll.push_back({"Line",
+                             {QPoint(static_cast<int>(x1), static_cast<int>(y1)),
+                              QPoint(static_cast<int>(x2), static_cast<int>(y2))},
+                             {},
+                             {},
+                             farbe == -1 ? ForeColor : farbe,
+                             FillColor,
+                             FillStyle});
+    }
     void Circle(double, double, double, CanvasFarbe) override {}
     void Print(const QString&) override {}
     double TextWidth(const QString&) override { return 0; }

@@ -1,8 +1,10 @@
 #include "KalenderTestHilfe.h"
 
+#include "calendar/Standarddesign.h"
 #include "calendar/Tagesdaten.h"
 #include "core/runtime/Basic.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 using namespace zp;
@@ -283,4 +285,35 @@ TEST(Texte, TitleFooterCaptionsAndEmptyTexts) {
     // A frame number out of range draws nothing.
     EXPECT_TRUE(Text(s, 99).empty());
     EXPECT_TRUE(Form(s, 0).empty());
+}
+
+TEST(Standarddesigns, EveryTypeAndVariantWalksInsideThePage) {
+    for (int typ = 1; typ <= 7; ++typ)
+        for (int variante = 1; variante <= 2; ++variante) {
+            AppState s = Kalenderdesign(typ, 2027);
+            BaueStandarddesign(s, typ, variante);
+            Aufzeichner a;
+            // Frames by their stacking, as the page is composed; shapes set the grid measures first.
+            std::vector<int> folge;
+            for (int n = 1; n <= static_cast<int>(s.RahmenAnzahl); ++n)
+                folge.push_back(n);
+            std::sort(folge.begin(), folge.end(),
+                      [&](int x, int y) { return s.Rahmenliste(x).z < s.Rahmenliste(y).z; });
+            for (int n : folge) {
+                if (s.Rahmenliste(n).Sichtbar == 0) continue;
+                if (s.Rahmenliste(n).Objekttyp == u"Schrift") KalenderTextLauf(s, a, n);
+                if (s.Rahmenliste(n).Objekttyp == u"Linie") KalenderRahmenLauf(s, a, n);
+            }
+            int tageszahlen = 0;
+            const double breite = typ == 3 ? 900 : 2100, hoehe = typ == 3 ? 620 : 2970;
+            for (const Zelle& z : a.zellen) {
+                EXPECT_GE(z.x, 0) << typ << "/" << variante << " Rolle " << z.rolle;
+                EXPECT_GE(z.y, 0) << typ << "/" << variante << " Rolle " << z.rolle;
+                EXPECT_LE(z.x + z.breite, breite + 0.5) << typ << "/" << variante << " Rolle " << z.rolle;
+                EXPECT_LE(z.y + z.hoehe, hoehe + 0.5) << typ << "/" << variante << " Rolle " << z.rolle;
+                tageszahlen += z.text && z.rolle == 3;
+            }
+            const int erwartet[] = {0, 181, 365, 365, 31, 31, 3, 90}; // 2027 begins on a Friday
+            EXPECT_EQ(tageszahlen, erwartet[typ]) << typ << "/" << variante;
+        }
 }

@@ -1,8 +1,8 @@
 #pragma once
-// A printer for tests: no device, it notes the job's pages and, through the test composition,
-// every piece with the window origin and the state it was composed with.
+// A printer for tests: the recording canvas that also notes the job's pages and, through the test
+// composition, every piece with the window origin and the state it was composed with.
 
-#include "compose/canvas.h"
+#include "compose/RecordingCanvas.h"
 #include "core/AppState.h"
 #include "core/Oberflaeche.h"
 #include "output/Druckausgabe.h"
@@ -23,10 +23,12 @@ struct Stueck {
     double TwipsProPixelX = 0;
 };
 
-class Aufzeichnungsdrucker : public Canvas, public Druckausgabe {
+class Aufzeichnungsdrucker : public RecordingCanvas, public Druckausgabe {
 public:
-    explicit Aufzeichnungsdrucker(bool datei = false, int physischerVersatz = 0, double tpp = 2.4)
-        : m_datei(datei), m_versatz(physischerVersatz), m_tpp(tpp) {}
+    // A printer at 600 dpi; `datei`: a PDF file rather than paper.
+    explicit Aufzeichnungsdrucker(bool datei = false, int physischerVersatz = 0)
+        : RecordingCanvas(CanvasArt::Drucker, 2.4, 2.4, QSize(4960, 7016)), m_datei(datei),
+          m_versatz(physischerVersatz) {}
 
     std::vector<std::string> Ereignisse; // "Oeffne", "NeueSeite", "Schliesse"
     std::vector<Stueck> Stuecke;
@@ -57,13 +59,13 @@ public:
     bool Oeffne() override {
         if (!OeffnenGelingt) return false;
         Ereignisse.push_back("Oeffne");
-        m_ursprung = {};
+        SetWindowOrgEx(0, 0);
         ++m_seiten;
         return true;
     }
     void NeueSeite() override {
         Ereignisse.push_back("NeueSeite");
-        m_ursprung = {};
+        SetWindowOrgEx(0, 0);
         ++m_seiten;
     }
     void Schliesse() override { Ereignisse.push_back("Schliesse"); }
@@ -73,44 +75,13 @@ public:
     int Seiten() const override { return m_seiten; }
     QString Fehlertext() const override { return QStringLiteral("kein Drucker"); }
 
-    // Canvas: only the window origin and the device's measures matter here.
-    CanvasArt Art() const override { return CanvasArt::Drucker; }
-    double Width() const override { return 4960 * m_tpp; }
-    double Height() const override { return 7016 * m_tpp; }
-    double TwipsPerPixelX() const override { return m_tpp; }
-    double TwipsPerPixelY() const override { return m_tpp; }
-    void Cls() override {}
-    void Line(double, double, double, double, CanvasFarbe, LineForm) override {}
-    void Circle(double, double, double, CanvasFarbe) override {}
-    void Print(const QString&) override {}
-    double TextWidth(const QString&) override { return 0; }
-    double TextHeight(const QString&) override { return 0; }
-    void SetWindowOrgEx(int x, int y) override { m_ursprung = {x, y}; }
-    void OffsetWindowOrgEx(int dx, int dy) override { m_ursprung += QPoint(dx, dy); }
-    QPoint WindowOrg() const override { return m_ursprung; }
-    void SetBkMode(bool) override {}
-    GdiHandle CreateFontIndirectA(const LogFont&) override { return 0; }
-    GdiHandle SelectObject(GdiHandle) override { return 0; }
-    void DeleteObject(GdiHandle) override {}
-    QSize GetTextExtentPoint32A(const QString&) override { return {}; }
-    int GetDeviceCaps(int index) const override { return index == PHYSICALOFFSETX ? m_versatz : 0; }
-    int SetTextCharacterExtra(int) override { return 0; }
-    void TextOutA(int, int, const QString&) override {}
-    GdiHandle CreateRectRgn(int, int, int, int) override { return 0; }
-    GdiHandle CreatePolygonRgn(const std::vector<QPoint>&, PolyFillMode) override { return 0; }
-    void SelectClipRgn(GdiHandle) override {}
-    void OffsetClipRgn(int, int) override {}
-    void Polyline(const std::vector<QPoint>&) override {}
-    void Polygon(const std::vector<QPoint>&) override {}
-    void Rectangle(int, int, int, int) override {}
-    void Ellipse(int, int, int, int) override {}
-    void RenderBild(const QImage&, const QRectF&) override {}
+    int GetDeviceCaps(int index) const override {
+        return index == PHYSICALOFFSETX ? m_versatz : RecordingCanvas::GetDeviceCaps(index);
+    }
 
 private:
     bool m_datei;
     int m_versatz;
-    double m_tpp;
-    QPoint m_ursprung;
     int m_seiten = 0;
 };
 

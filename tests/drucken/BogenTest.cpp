@@ -89,18 +89,6 @@ TEST(Bogen, VisitenkartenZaehlenUebersprungenePlaetzeOhneSieZuVerschieben) {
     EXPECT_DOUBLE_EQ(d.Stuecke[0].EtikettX, 72 + 685);
 }
 
-TEST(Bogen, UnbrauchbareStartpositionBeginntAmErstenPlatz) {
-    for (double erstes : {24.0, 1e9, 0.0, -3.0}) {
-        AppState s = Etikettenbogen();
-        s.ErstesEtikett = erstes;
-        Aufzeichnungsdrucker d;
-        Mitschrift o;
-        PrintDocument(s, o, d, Druckwahl{}, d.Hilfen());
-        ASSERT_EQ(d.Stuecke.size(), 1u) << erstes;
-        EXPECT_EQ(d.Stuecke[0].Ursprung, Platz(s, 1, 1)) << erstes;
-    }
-}
-
 TEST(Bogen, KopienZaehlenJeAdresseUndSeriennummernJeStueck) {
     AppState s = Etikettenbogen();
     Adressen(s, {"", ""});
@@ -221,21 +209,17 @@ TEST(Bogen, KorrekturenGeltenWaehrendDesDrucksUndWerdenZurueckgesetzt) {
     EXPECT_DOUBLE_EQ(s.DruckversatzX, 0);
     EXPECT_DOUBLE_EQ(s.DruckversatzY, 0);
     EXPECT_DOUBLE_EQ(s.EtikettX, 0);
-}
 
-TEST(Bogen, BriefkopfDrucktEineSeiteMitKorrektur) {
-    AppState s;
-    s.IstBriefkopf = -1;
-    s.AbgleichX = 20;
-    s.AbgleichY = 10;
-    Aufzeichnungsdrucker d(false, 30);
-    Mitschrift o;
-    Druckwahl w;
-    w.Kopien = "5"; // the device makes the copies of a letter
-    PrintDocument(s, o, d, w, d.Hilfen());
-    ASSERT_EQ(d.Stuecke.size(), 1u);
-    EXPECT_EQ(d.Stuecke[0].Ursprung, QPoint(-Px(20 - 30), -Px(10)));
-    EXPECT_EQ(d.Ereignisse, (std::vector<std::string>{"Oeffne", "Schliesse"}));
+    // A letter is one page, shifted by the corrections alone.
+    AppState brief;
+    brief.IstBriefkopf = -1;
+    brief.AbgleichX = 20;
+    brief.AbgleichY = 10;
+    Aufzeichnungsdrucker b(false, 30);
+    PrintDocument(brief, o, b, w, b.Hilfen());
+    ASSERT_EQ(b.Stuecke.size(), 1u);
+    EXPECT_EQ(b.Stuecke[0].Ursprung, QPoint(-Px(20 - 30), -Px(10)));
+    EXPECT_EQ(b.Ereignisse, (std::vector<std::string>{"Oeffne", "Schliesse"}));
 }
 
 TEST(Bogen, UnsinnigeWerteEndenOhneHaengen) {
@@ -250,6 +234,16 @@ TEST(Bogen, UnsinnigeWerteEndenOhneHaengen) {
             PrintDocument(s, o, d, w, d.Hilfen());
             EXPECT_EQ(d.Stuecke.size(), 1u) << kopien;
         }
+    }
+    // A start position at or past the end of the sheet starts at the first place.
+    for (double erstes : {24.0, 1e9, 0.0, -3.0}) {
+        AppState s = Etikettenbogen();
+        s.ErstesEtikett = erstes;
+        Aufzeichnungsdrucker d;
+        Mitschrift o;
+        PrintDocument(s, o, d, Druckwahl{}, d.Hilfen());
+        ASSERT_EQ(d.Stuecke.size(), 1u) << erstes;
+        EXPECT_EQ(d.Stuecke[0].Ursprung, Platz(s, 1, 1)) << erstes;
     }
     {
         // A sheet without labels is refused with a message.

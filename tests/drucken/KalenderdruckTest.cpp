@@ -86,19 +86,16 @@ TEST(Kalenderdruck, WochenkalenderTraegtDieWochenVonSeiteZuSeite) {
     EXPECT_DOUBLE_EQ(s.Seitennummer, 4);
     EXPECT_DOUBLE_EQ(s.WocheTag, 0);
     EXPECT_DOUBLE_EQ(s.WocheMonat, 1);
-}
 
-TEST(Kalenderdruck, WochenkalenderAbEinerSpaeterenSeite) {
-    AppState s = Kalender(6, 2004);
-    Aufzeichnungsdrucker d;
-    Mitschrift o;
-    CommandDrucken(s, o, d, Seiten("10", "12"), d.Hilfen());
-    ASSERT_EQ(d.Stuecke.size(), 3u);
-    // 2004 begins on a Thursday: page 2 starts on 5 January, page 10 eight weeks later.
-    const QDate start = basic::DateSerial(2004, static_cast<int>(d.Stuecke[0].WocheMonat),
-                                          static_cast<int>(d.Stuecke[0].WocheTag) + 1);
-    EXPECT_EQ(start, QDate(2004, 3, 1));
-    EXPECT_EQ(d.Ereignisse, (std::vector<std::string>{"Oeffne", "NeueSeite", "NeueSeite", "Schliesse"}));
+    // From a later page: 2004 begins on a Thursday, page 2 on 5 January, page 10 eight weeks later.
+    AppState spaeter = Kalender(6, 2004);
+    Aufzeichnungsdrucker ab10;
+    CommandDrucken(spaeter, o, ab10, Seiten("10", "12"), ab10.Hilfen());
+    ASSERT_EQ(ab10.Stuecke.size(), 3u);
+    EXPECT_EQ(basic::DateSerial(2004, static_cast<int>(ab10.Stuecke[0].WocheMonat),
+                                static_cast<int>(ab10.Stuecke[0].WocheTag) + 1),
+              QDate(2004, 3, 1));
+    EXPECT_EQ(ab10.Ereignisse, (std::vector<std::string>{"Oeffne", "NeueSeite", "NeueSeite", "Schliesse"}));
 }
 
 TEST(Kalenderdruck, HalbjahrWirdAufPapierGewendet) {

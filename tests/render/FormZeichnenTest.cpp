@@ -22,8 +22,8 @@ struct Fall {
     P punkte;                 // points of the one Polygon/Polyline
 };
 
-std::vector<Aufruf> Zeichne(int form, bool fuellung, double zoom, int staerke = 2, double dx = 0,
-                            double dy = 0) {
+std::vector<CanvasAufruf> Zeichne(int form, bool fuellung, double zoom, int staerke = 2, double dx = 0,
+                                  double dy = 0) {
     RecordingCanvas c;
     ClassLinie l;
     l.Form = static_cast<int16_t>(form);

@@ -87,7 +87,7 @@ void Designfigur(AppState& s, int figur, Farbe farbe, int breiteTwips = 80) {
 // The usual address block: company, name, profession, then street, town, phone and e-mail.
 void Adressblock(AppState& s, double x, double y0, double breite, Farbe haupt, Farbe neben, int ausrichtung,
                  const QString& schrift = QStringLiteral("Arial")) {
-    Text(s, 26, x, breite, {y0, 13, true}, haupt, ausrichtung, schrift);
+    Text(s, 26, x, breite, {y0, 12, true}, haupt, ausrichtung, schrift);
     Text(s, 21, x, breite, {y0 + 85, 11, true}, neben, ausrichtung, schrift);
     Text(s, 27, x, breite, {y0 + 135, 8, false, true}, neben, ausrichtung, schrift);
     Text(s, 22, x, breite, {y0 + 215, 8}, neben, ausrichtung, schrift);
@@ -138,7 +138,7 @@ void Design(AppState& s, int n) {
     case 4: // Grüne Zacken: a white card torn in zigzag from a green edge
         Hintergrund(s, 3, RGB(34, 120, 60), RGB(90, 170, 90));
         Designfigur(s, 9, Weiss, 700);
-        Adressblock(s, 330, 50, 470, RGB(30, 110, 50), RGB(40, 40, 40), 0);
+        Adressblock(s, 290, 50, 520, RGB(30, 110, 50), RGB(40, 40, 40), 0);
         break;
     case 5: { // Bunte Balken: a row of bright bars along the bottom
         const Farbe farben[] = {RGB(220, 50, 50), RGB(245, 150, 30), RGB(245, 210, 40), RGB(70, 170, 70),
@@ -174,7 +174,7 @@ void Design(AppState& s, int n) {
         break;
     case 10: // Gelbes Quadrat: a yellow square with a fine offset outline
         Form(s, 16, 610, 50, 190, 190, RGB(250, 205, 30), RGB(250, 205, 30));
-        Form(s, 16, 640, 80, 190, 190, RGB(70, 70, 70), RGB(70, 70, 70), 1, 0, false);
+        Form(s, 16, 640, 80, 180, 180, RGB(70, 70, 70), RGB(70, 70, 70), 3, 0, false);
         Adressblock(s, 50, 50, 540, RGB(60, 60, 60), RGB(40, 40, 40), 0);
         break;
     case 11: // Lila Dreieck: a purple wedge on the right edge
@@ -182,9 +182,15 @@ void Design(AppState& s, int n) {
         Form(s, 15, W - 160, 150, 160, 240, RGB(200, 160, 220), RGB(200, 160, 220));
         Adressblock(s, 50, 50, 520, RGB(120, 50, 150), RGB(45, 35, 50), 0);
         break;
-    case 12: // Schwarze Ecke: two black wedges in opposite corners
-        Designfigur(s, 12, RGB(25, 25, 25), 1);
-        Adressblock(s, 240, 50, 420, RGB(25, 25, 25), RGB(50, 50, 50), 1);
+    case 12: // Schwarze Ecke: two black wedges in opposite corners, the address between them
+        Designfigur(s, 12, RGB(25, 25, 25), 1400);
+        Text(s, 26, 60, 700, {40, 12, true}, RGB(25, 25, 25), 0);
+        Text(s, 21, 60, 700, {115, 11, true}, RGB(50, 50, 50), 0);
+        Text(s, 27, 60, 700, {165, 8, false, true}, RGB(50, 50, 50), 0);
+        Text(s, 22, 300, 500, {330, 8}, RGB(50, 50, 50), 2);
+        Text(s, 23, 300, 500, {375, 8}, RGB(50, 50, 50), 2);
+        Text(s, 24, 300, 500, {420, 8}, RGB(50, 50, 50), 2);
+        Text(s, 25, 300, 500, {465, 8}, RGB(50, 50, 50), 2);
         break;
     case 13: // Blauer Streife: the name in white on a blue strip across the card
         Form(s, 16, 0, 140, W, 150, RGB(25, 80, 170), RGB(25, 80, 170));
@@ -370,16 +376,16 @@ void BaueLayout(AppState& s, int k) {
 void BaueBeispieladressen(AppState& s) {
     const QStringList adressen[] = {
         {QStringLiteral("Anna Schneider"), QStringLiteral("Lindenstraße 12"), QStringLiteral("80331 München"),
-         QStringLiteral("Tel. 089 1234567"), QStringLiteral("anna.schneider@example.com"),
+         QStringLiteral("Tel. 089 1234567"), QStringLiteral("anna@schneider-design.example"),
          QStringLiteral("Schneider Grafikdesign"), QStringLiteral("Diplom-Designerin")},
         {QStringLiteral("Dr. Thomas Becker"), QStringLiteral("Am Marktplatz 3"), QStringLiteral("50667 Köln"),
-         QStringLiteral("Tel. 0221 987654"), QStringLiteral("praxis@becker-zahnarzt.example.com"),
+         QStringLiteral("Tel. 0221 987654"), QStringLiteral("praxis@dr-becker.example"),
          QStringLiteral("Praxis für Zahnheilkunde"), QStringLiteral("Zahnarzt")},
         {QStringLiteral("Julia Wagner"), QStringLiteral("Hafenweg 7"), QStringLiteral("20457 Hamburg"),
-         QStringLiteral("Tel. 040 5556677"), QStringLiteral("julia@wagner-reisen.example.com"),
+         QStringLiteral("Tel. 040 5556677"), QStringLiteral("julia@wagner-reisen.example"),
          QStringLiteral("Wagner Reisen"), QStringLiteral("Reiseberaterin")},
         {QStringLiteral("Michael Hoffmann"), QStringLiteral("Bergstraße 45"), QStringLiteral("01069 Dresden"),
-         QStringLiteral("Tel. 0351 443322"), QStringLiteral("info@hoffmann-immobilien.example.com"),
+         QStringLiteral("Tel. 0351 443322"), QStringLiteral("info@hoffmann-immo.example"),
          QStringLiteral("Hoffmann Immobilien"), QStringLiteral("Immobilienmakler")},
         {QStringLiteral("Familie Özdemir"), QStringLiteral("Rosenweg 5a"), QStringLiteral("70173 Stuttgart"),
          QStringLiteral("Tel. 0711 2223344")},

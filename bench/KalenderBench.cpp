@@ -1,0 +1,62 @@
+// A calendar page composed at zoom 150 as the page picture shows it (ZeichneSeite on an image
+// canvas), with a standard design: page 1 of each type and variant, and week page 30.
+#include "calendar/Feiertage.h"
+#include "calendar/Standarddesign.h"
+#include "compose/Seitenbild.h"
+#include "core/AppState.h"
+
+#include <QGuiApplication>
+#include <benchmark/benchmark.h>
+#include <cstdlib>
+#include <memory>
+
+namespace {
+
+using namespace zp;
+
+// Text output needs a GUI application; the benchmark main doesn't make one.
+void SorgeFuerAnwendung() {
+    static std::unique_ptr<QGuiApplication> app;
+    if (QGuiApplication::instance()) return;
+    if (!std::getenv("QT_QPA_PLATFORM")) setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    static int argc = 1;
+    static char name[] = "zp_bench";
+    static char* argv[] = {name, nullptr};
+    app = std::make_unique<QGuiApplication>(argc, argv);
+}
+
+void Kalenderseite(benchmark::State& state) {
+    SorgeFuerAnwendung();
+    const int typ = static_cast<int>(state.range(0));
+    const int variante = static_cast<int>(state.range(1));
+    const int seite = static_cast<int>(state.range(2));
+    AppState s;
+    s.IstKalender = -1;
+    s.AktuelleSeite.Breite = 2100;
+    s.AktuelleSeite.Höhe = 2970;
+    s.Kalenderjahr = 2027;
+    s.Seitennummer = seite;
+    s.Zoomfaktor = 150;
+    for (int i = 1; i <= 25; ++i)
+        s.FeiertagWahl(i) = 1;
+    BerechneFeiertage(s);
+    s.Termine(14, 2) = QStringLiteral("Valentinstag");
+    s.Panel.TextTitel = QStringLiteral("Familienkalender 2027");
+    BaueStandarddesign(s, typ, variante);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(ZeichneSeitenbild(s));
+}
+
+void Seiten(benchmark::internal::Benchmark* b) {
+    for (int typ = 1; typ <= 7; ++typ)
+        for (int variante = 1; variante <= 2; ++variante)
+            b->Args({typ, variante, 1});
+    b->Args({6, 1, 30});
+    b->Args({6, 2, 30});
+    b->ArgNames({"typ", "variante", "seite"});
+    b->Unit(benchmark::kMillisecond);
+}
+
+BENCHMARK(Kalenderseite)->Apply(Seiten);
+
+} // namespace

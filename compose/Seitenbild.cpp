@@ -1,0 +1,32 @@
+#include "Seitenbild.h"
+
+#include "compose/GdiRunden.h"
+#include "compose/ImageCanvas.h"
+#include "compose/ZeichneSeite.h"
+#include "core/AppState.h"
+
+#include <algorithm>
+
+namespace zp {
+
+QSize SeitenbildGroesse(const AppState& s) {
+    // A sheet without a label size (no edition chosen) shows its page.
+    const bool ganzeSeite = s.IstKalender != 0 || s.IstBriefkopf != 0 || s.AktuellesEtikett.Breite <= 0 ||
+                            s.AktuellesEtikett.Höhe <= 0;
+    const double breite = ganzeSeite ? s.AktuelleSeite.Breite : s.AktuellesEtikett.Breite;
+    const double hoehe = ganzeSeite ? s.AktuelleSeite.Höhe : s.AktuellesEtikett.Höhe;
+    const double twips = s.Geraetefaktor * s.Zoomfaktor / 100;
+    const double tppX = s.TwipsProPixelX > 0 ? s.TwipsProPixelX : 15;
+    const double tppY = s.TwipsProPixelY > 0 ? s.TwipsProPixelY : 15;
+    return {std::max(1, gdi::Lng(breite * twips / tppX)), std::max(1, gdi::Lng(hoehe * twips / tppY))};
+}
+
+QImage ZeichneSeitenbild(AppState& s) {
+    ImageCanvas seite(SeitenbildGroesse(s), CanvasArt::Bildschirm, s.TwipsProPixelX, s.TwipsProPixelY);
+    Zeichenziele ziele;
+    ziele.PictureSeite = &seite;
+    ZeichneSeite(s, ziele);
+    return seite.Bild();
+}
+
+} // namespace zp

@@ -1,0 +1,17 @@
+#pragma once
+// The page picture as the main window shows it, as an image of its own: for the command line,
+// the benchmark and anyone who needs the screen's view without a window.
+
+#include <QImage>
+#include <QSize>
+
+namespace zp {
+struct AppState;
+
+// Size in pixels of the page picture at the present zoom: the page in the calendar and the
+// letterhead, one label or card in the other editions.
+[[nodiscard]] QSize SeitenbildGroesse(const AppState& s);
+
+// Composes the page on an image canvas of that size (15 twips per pixel) and returns it.
+[[nodiscard]] QImage ZeichneSeitenbild(AppState& s);
+} // namespace zp

@@ -1,0 +1,339 @@
+#include "ZeichneSeite.h"
+
+#include "calendar/KalenderZeichnen.h"
+#include "compose/GdiRunden.h"
+#include "compose/canvas.h"
+#include "core/AppState.h"
+#include "core/Oberflaeche.h"
+#include "core/runtime/Basic.h"
+#include "render/Bildweg.h"
+#include "render/ZeichneLinie.h"
+#include "render/ZeichneSchrift.h"
+
+#include <cmath>
+#include <stdexcept>
+
+namespace zp {
+
+namespace {
+using basic::RGB;
+
+constexpr int kMeisteRasterlinien = 5000; // per direction: more would only paint the page grey
+
+bool An(double flag) {
+    return flag != 0;
+}
+
+// Days of month m (rolled over past December) of year y.
+int Monatslaenge(int y, int m) {
+    return basic::DateSerial(y, m + 1, 0).day();
+}
+
+// Step 2: the week of page Seitennummer in the week calendar, counted from the first Monday
+// row of the year.
+void BestimmeWoche(AppState& s) {
+    s.WocheMonat = 1;
+    s.WocheTag = 0;
+    if (s.Seitennummer == 1) return;
+    const int jahr = static_cast<int>(s.Kalenderjahr);
+    int t = basic::Weekday(basic::DateSerial(jahr - 1, 12, 31)) - 1;
+    if (t < 0) t = 6;
+    // A year has at most 54 week pages; a wild page number stops there instead of running on.
+    const double seiten = std::min(s.Seitennummer, 600.0);
+    double p = 1;
+    do {
+        while (t < 7) {
+            ++t;
+            s.WocheTag += 1;
+            if (s.WocheTag == Monatslaenge(jahr, static_cast<int>(s.WocheMonat))) {
+                s.WocheTag = 0;
+                s.WocheMonat += 1;
+            }
+        }
+        t = 0;
+        p += 1;
+    } while (p < seiten);
+}
+
+// Step 3: the draw scale of the target.
+void SetzeMassstab(AppState& s) {
+    s.Zeichenfaktor = s.Zoomfaktor / 100;
+    if (An(s.DruckenAktiv)) s.Zeichenfaktor = 1;
+    if (An(s.DruckenAktiv) && An(s.IstKalender)) s.Zeichenfaktor = s.Druckzoom / 100;
+    if (An(s.ExportAktiv)) s.Zeichenfaktor = s.ZoomExport;
+}
+
+// Step 5: a colour or picture background over the whole label, then the design band.
+void ZeichneEtikettHintergrund(AppState& s, Canvas& ziel) {
+    const ClassEtikett& e = s.AktuellesEtikett;
+    const int F = e.Farbüberlauf;
+    const int M = e.Muster;
+    if (F < 1) return;
+    ClassRahmen& r = s.AktuellerRahmen;
+    r.X = r.Y = 0;
+    r.Breite = e.Breite;
+    r.Höhe = e.Höhe;
+    r.Sichtbar = -1;
+    if (F == 5 || (F == 4 && M >= 1)) {
+        r.Objekttyp = QStringLiteral("Bild");
+        ClassBild& b = s.AktuellesBild;
+        b.File = F == 5 ? s.Programmpfad + QStringLiteral("daten/must") + QString::number(M) +
+                              QStringLiteral(".jpg")
+                        : e.Bilddatei;
+        b.Effekt = QStringLiteral("0");
+        b.EffektMosaik = b.EffektPixel = 0;
+        b.EffektTrapez = 0;
+        b.Farbintensität = 0;
+        b.Farbverschiebung = 0;
+        b.Gray = 0;
+        b.Helligkeit = 0;
+        b.Invert = 0;
+        b.Kontrast = 0;
+        b.Rotate = 0;
+        b.Schärfe = 0;
+        ZeichneBildHintergrund(s, ziel);
+    } else if (F != 4) {
+        r.Objekttyp = QStringLiteral("Linie");
+        ClassLinie& l = s.AktuelleLinie;
+        l.Color1 = e.Farbe1;
+        l.Color2 = F < 2 ? e.Farbe1 : e.Farbe2;
+        l.ColorCircle = static_cast<int16_t>(std::clamp(F - 1, -32768, 32767));
+        l.Form = 16;
+        l.Füllung = -1;
+        l.Stärke = 0;
+        l.ShadowDeep = 0;
+        ZeichneLinie(s, ziel, l, r);
+    }
+    ZeichneKartendesign(s, ziel, e.Breite, e.Höhe, e.Designbreite, e);
+}
+
+// Step 6: margins, the address window, fold and punch marks, and the grid (page picture only).
+void ZeichneHilfen(AppState& s, Canvas& seite) {
+    const double m = s.Zeichenfaktor * s.Geraetefaktor;
+    const ClassSeite& p = s.AktuelleSeite;
+    using F = Canvas::LineForm;
+    if (An(s.HilfsbereicheAn)) {
+        seite.ForeColor = seite.FillColor = RGB(222, 222, 222);
+        seite.FillStyle = 0;
+        seite.Line(0, 0, p.Randlinks * m, p.Höhe * m, -1, F::KastenGefuellt);
+        seite.Line((p.Breite - p.Randrechts) * m, 0, p.Breite * m, p.Höhe * m, -1, F::KastenGefuellt);
+        seite.Line(0, 0, p.Breite * m, p.Randoben * m, -1, F::KastenGefuellt);
+        seite.Line(0, (p.Höhe - p.Randunten) * m, p.Breite * m, p.Höhe * m, -1, F::KastenGefuellt);
+        seite.ForeColor = RGB(255, 255, 192); // the address window of a letter
+        seite.Line(200 * m, 450 * m, 1050 * m, 850 * m, -1, F::KastenGefuellt);
+        seite.ForeColor = seite.FillColor = RGB(255, 255, 255); // two fold marks and the punch mark
+        seite.Line(0, 1045 * m, 50 * m, 1055 * m, -1, F::KastenGefuellt);
+        seite.Line(0, 1475 * m, 50 * m, 1485 * m, -1, F::KastenGefuellt);
+        seite.Line(0, 2095 * m, 50 * m, 2105 * m, -1, F::KastenGefuellt);
+    }
+    seite.ForeColor = RGB(192, 192, 192);
+    if (s.GridAn == -1) {
+        seite.DrawStyle = 2;
+        const double Z = s.Zeichenfaktor, Fg = s.Geraetefaktor;
+        const double dy = s.Rasterhoehe * Z, dx = s.Rasterbreite * Z;
+        int anzahl = 0;
+        if (dy > 0)
+            for (double y = dy; y <= p.Höhe * Z && anzahl < kMeisteRasterlinien; y += dy, ++anzahl)
+                seite.Line(0, y * Fg, p.Breite * m, y * Fg);
+        anzahl = 0;
+        if (dx > 0)
+            for (double x = dx; x <= p.Breite * Z && anzahl < kMeisteRasterlinien; x += dx, ++anzahl)
+                seite.Line(x * Fg, 0, x * Fg, p.Höhe * m);
+    }
+    seite.DrawStyle = 0;
+}
+
+// Step 8e: where the letter body goes, on the page picture of the letterhead.
+void ZeichneBrieftextHinweis(AppState& s, Canvas& seite, const ClassRahmen& r) {
+    const double m = s.Zeichenfaktor * s.Geraetefaktor;
+    seite.ForeColor = RGB(255, 255, 192);
+    seite.Line(r.X * m, r.Y * m, (r.X + r.Breite) * m, (r.Y + r.Höhe) * m, -1,
+               Canvas::LineForm::KastenGefuellt);
+    seite.CurrentX = r.X * m;
+    seite.CurrentY = r.Y * m;
+    seite.FontName = QStringLiteral("Arial");
+    seite.FontSize = 10;
+    seite.ForeColor = RGB(192, 192, 192);
+    seite.FontBold = false;
+    seite.FontItalic = false;
+    seite.FontTransparent = true;
+    seite.Print(QStringLiteral("Brieftext (Anzeige unter Vorschau)"));
+}
+
+// Step 8a-g: one frame by its type.
+void ZeichneRahmen(AppState& s, Canvas& ziel, Canvas* seite, int n) {
+    ClassRahmen& r = s.Rahmenliste(n);
+    const QString& typ = r.Objekttyp;
+    const int k = static_cast<int>(r.Objektnummer);
+    const bool aufDemSchirm = !An(s.DruckenAktiv) && !An(s.ExportAktiv);
+    if (typ == QLatin1String("Schrift")) {
+        if (An(s.IstKalender)) {
+            ZeichneKalenderText(s, ziel, n);
+            return;
+        }
+        if (k < 0 || k > s.Schriftliste.Obergrenze()) return;
+        ClassSchrift& t = s.Schriftliste(k);
+        if (t.Textstring.isEmpty()) return;
+        r.Sichtbar = -1;
+        ZeichneSchrift(s, ziel, t, r);
+    } else if (typ == QLatin1String("Linie")) {
+        if (An(s.IstKalender)) {
+            const double linie = s.LinieNummer;
+            ZeichneKalenderRahmen(s, ziel, n);
+            s.LinieNummer = linie;
+            return;
+        }
+        if (k < 0 || k > s.Linienliste.Obergrenze()) return;
+        ZeichneLinie(s, ziel, s.Linienliste(k), r);
+    } else if (typ == QLatin1String("RTF")) {
+        if (aufDemSchirm && An(s.IstBriefkopf) && seite) ZeichneBrieftextHinweis(s, *seite, r);
+    } else if (typ == QLatin1String("Bild")) {
+        ZeichneBildRahmen(s, ziel, n);
+    }
+}
+
+// Steps 9 and 10: the cutting frame and the crop marks of a printed label or card.
+void ZeichneSchnitthilfen(AppState& s, Canvas& drucker) {
+    const ClassEtikett& e = s.AktuellesEtikett;
+    const bool art = An(s.IstEtikett) || An(s.IstVisitenkarte) || (An(s.IstKalender) && s.Kalendertyp == 3);
+    if (!art) return;
+    const double fx = s.Geraetefaktor / s.TwipsProPixelX, fy = s.Geraetefaktor / s.TwipsProPixelY;
+    auto px = [&](double v) { return gdi::Lng(std::trunc(v * fx)); };
+    auto py = [&](double v) { return gdi::Lng(std::trunc(v * fy)); };
+    if (e.Schnittrahmen != 0) {
+        drucker.DrawWidth = 1;
+        drucker.DrawStyle = 2;
+        drucker.ForeColor = RGB(92, 92, 92);
+        drucker.FillStyle = 1;
+        drucker.FillColor = RGB(192, 255, 255);
+        drucker.FontTransparent = true;
+        drucker.SetBkMode(true);
+        const int w = px(e.Breite), h = py(e.Höhe);
+        drucker.Polyline({{0, 0}, {w, 0}, {w, h}, {0, h}, {0, 0}});
+        drucker.DrawStyle = 0;
+    }
+    if (e.Schnittmarken != 0) {
+        drucker.FillStyle = 0;
+        drucker.FillColor = 0;
+        drucker.DrawStyle = 0;
+        drucker.DrawWidth = 1;
+        drucker.ForeColor = 0;
+        const double W = e.Breite, H = e.Höhe;
+        const double marken[8][4] = {
+            {-40, 0, -10, 2}, {-40, H, -10, H + 2},   {W + 10, 0, W + 40, 2}, {W + 10, H, W + 40, H + 2},
+            {0, -40, 2, -10}, {0, H + 10, 2, H + 40}, {W, -40, W + 2, -10},   {W, H + 10, W + 2, H + 40},
+        };
+        for (const auto& m : marken)
+            drucker.Rectangle(px(m[0]), py(m[1]), px(m[2]), py(m[3]));
+        drucker.FillStyle = 1;
+        drucker.FillColor = 0;
+        drucker.DrawStyle = 0;
+        drucker.DrawWidth = 1;
+    }
+}
+
+// Step 12: the handles of the current frame at the marker's corners, 80 twips whatever the zoom.
+void ZeichneAuswahl(AppState& s, Canvas& seite) {
+    seite.DrawWidth = 2;
+    seite.FillStyle = 1;
+    const int n = static_cast<int>(s.RahmenNummer);
+    const bool verankert = s.Rahmenliste.Gueltig(n) && s.Rahmenliste(n).Verankert != 0;
+    const CanvasFarbe c = verankert ? RGB(192, 192, 192) : RGB(92, 92, 92);
+    const double L = s.Rahmen.Left, T = s.Rahmen.Top, W = s.Rahmen.Width, H = s.Rahmen.Height;
+    using F = Canvas::LineForm;
+    seite.Line(L, T, L + 80, T + 80, c, F::KastenGefuellt);
+    seite.Line(L + W - 80, T, L + W, T + 80, c, F::KastenGefuellt);
+    seite.Line(L + W - 80, T + H - 80, L + W, T + H, c, F::KastenGefuellt);
+    seite.Line(L, T + H - 80, L + 80, T + H, c, F::KastenGefuellt);
+    seite.Line(L, T, L + W, T + H, RGB(50, 0, 0), F::Kasten);
+    seite.DrawWidth = 1;
+}
+} // namespace
+
+void ZeichneSeite(AppState& s, Zeichenziele& ziele) {
+    // 1. Hourglass.
+    if (ziele.Fenster) ziele.Fenster->Mauszeiger(11);
+    const bool drucken = An(s.DruckenAktiv), export_ = An(s.ExportAktiv);
+    const bool aufDemSchirm = !drucken && !export_;
+    Canvas* ziel = drucken ? ziele.Printer : export_ ? ziele.Lead2 : ziele.PictureSeite;
+    Canvas* seite = ziele.PictureSeite;
+
+    // 2. Week view.
+    if (An(s.IstKalender) && s.Kalendertyp == 6 && !drucken) BestimmeWoche(s);
+
+    // 3. Scale.
+    SetzeMassstab(s);
+
+    if (ziel) {
+        // 4. Clear the target, or move the printer's origin to the label.
+        if (aufDemSchirm) {
+            ziel->DrawWidth = 1;
+            ziel->DrawStyle = 0;
+            ziel->DrawMode = 13;
+            ziel->Cls();
+        } else if (export_) {
+            ziel->SetzeGroesse(s.AktuellesEtikett.Breite * s.Geraetefaktor * s.ZoomExport,
+                               s.AktuellesEtikett.Höhe * s.Geraetefaktor * s.ZoomExport);
+        } else {
+            ziel->OffsetWindowOrgEx(
+                gdi::Lng(std::trunc(-s.DruckversatzX * s.Geraetefaktor / s.TwipsProPixelX)),
+                gdi::Lng(std::trunc(-s.DruckversatzY * s.Geraetefaktor / s.TwipsProPixelY)));
+        }
+
+        // 5. Label background.
+        ZeichneEtikettHintergrund(s, *ziel);
+
+        // 6. Help areas and grid.
+        if (aufDemSchirm) ZeichneHilfen(s, *ziel);
+    }
+
+    // 7. The panel boxes 21 to 30 feed their texts, and a text brings its frame back.
+    for (int i = 21; i <= 30; ++i) {
+        if (!s.Schriftliste.Gueltig(i) || !s.Panel.Text1.Gueltig(i)) continue;
+        s.Schriftliste(i).Textstring = s.Panel.Text1(i);
+        if (!s.Panel.Text1(i).isEmpty() && s.Rahmenliste.Gueltig(i)) s.Rahmenliste(i).Sichtbar = -1;
+    }
+
+    // 8. Frames by stacking order, the outlines repainted in every pass.
+    const int anzahl = static_cast<int>(std::clamp(s.RahmenAnzahl, 0.0, double(s.Rahmenliste.Obergrenze())));
+    const bool umrisse = !drucken && An(s.RahmenAnzeigen) && seite;
+    for (int z = 1; z <= anzahl; ++z) {
+        for (int n = 1; n <= anzahl; ++n) {
+            ClassRahmen& r = s.Rahmenliste(n);
+            if (ziel && r.z == z && r.Sichtbar != 0) {
+                try {
+                    ZeichneRahmen(s, *ziel, seite, n);
+                } catch (const std::out_of_range&) {
+                    // A frame that points past its lists draws nothing; the page goes on.
+                }
+            }
+            if (umrisse) {
+                seite->ForeColor = 0;
+                seite->FillStyle = 1;
+                if (r.Sichtbar != 0) {
+                    const double m = s.Zeichenfaktor * s.Geraetefaktor;
+                    seite->Line(r.X * m, r.Y * m, (r.X + r.Breite) * m, (r.Y + r.Höhe) * m, RGB(92, 92, 92),
+                                Canvas::LineForm::Kasten);
+                }
+            }
+        }
+    }
+
+    // 9./10. Cutting frame and crop marks on the printer.
+    if (drucken && ziel) ZeichneSchnitthilfen(s, *ziel);
+
+    // 11. The round label's outline.
+    if (!drucken && An(s.IstEtikett) && s.AktuellesEtikett.Form == 1 && seite) {
+        seite->FillStyle = 1;
+        seite->Circle(seite->Width() / 2, seite->Height() / 2, seite->Width() / 2, 0);
+        seite->FillStyle = 0;
+    }
+
+    // 12. Selection marks.
+    if (!drucken && s.Auswahlmodus == 0 && seite) ZeichneAuswahl(s, *seite);
+
+    // 13. Pointer for drawing a new frame, or the default.
+    if (ziele.Fenster) ziele.Fenster->Mauszeiger(s.Auswahlmodus == 1 ? 2 : 0);
+}
+
+} // namespace zp
