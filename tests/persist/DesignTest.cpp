@@ -489,7 +489,15 @@ TEST(SaveDesign, ShippedDesignsComeBackByteForByte) {
         ASSERT_TRUE(LadeDesignAusBytes(s, ui, *bytes)) << ui.meldungen.join(u'\n').toStdString();
         QStringList erwartet = zeilen;
         erwartet[4] = QStringLiteral("Reserve");
-        EXPECT_EQ(Unterschied(SchreibeDesign(s), BytesAusZeilen(erwartet)), "") << pfad.toStdString();
+        QStringList geschrieben = ZeilenAusBytes(SchreibeDesign(s));
+        if (pfad.endsWith(u".zpk")) {
+            // Outside the Etikett edition the sheet's 15 geometry lines (before the end mark) are
+            // read and dropped, and a save writes the settings' sheet: those lines don't travel.
+            ASSERT_EQ(geschrieben.size(), erwartet.size()) << pfad.toStdString();
+            for (qsizetype i = erwartet.size() - 16; i < erwartet.size() - 1; ++i)
+                erwartet[i] = geschrieben[i];
+        }
+        EXPECT_EQ(Unterschied(BytesAusZeilen(geschrieben), BytesAusZeilen(erwartet)), "") << pfad.toStdString();
         ++dateien;
     }
     EXPECT_GE(dateien, 1);
