@@ -6,6 +6,7 @@
 #include "core/runtime/TextDatei.h"
 
 #include <QDirIterator>
+#include <QFileInfo>
 #include <gtest/gtest.h>
 
 using namespace zp;
@@ -468,6 +469,8 @@ TEST(SaveDesign, ShippedDesignsComeBackByteForByte) {
     int dateien = 0;
     while (it.hasNext()) {
         const QString pfad = it.next();
+        // Layout1.lay ... Layout5.lay are arrangements for the layout buttons, read by their own reader.
+        if (QFileInfo(pfad).fileName().startsWith(u"Layout")) continue;
         const auto bytes = LeseDatei(pfad);
         ASSERT_TRUE(bytes) << pfad.toStdString();
         const QStringList zeilen = ZeilenAusBytes(*bytes);
