@@ -1,8 +1,6 @@
 // The print run with the program's composition: crop bars and cut frame relative to each label.
-#include "compose/RecordingCanvas.h"
-#include "core/AppState.h"
-#include "core/Oberflaeche.h"
-#include "output/Druckausgabe.h"
+#include "Aufzeichnungsdrucker.h"
+
 #include "output/Programmdruck.h"
 
 #include <gtest/gtest.h>
@@ -11,29 +9,6 @@
 
 namespace zp::test {
 namespace {
-
-// The recording canvas as a printer at 600 dpi.
-class AufzeichnenderDrucker : public RecordingCanvas, public Druckausgabe {
-public:
-    AufzeichnenderDrucker() : RecordingCanvas(CanvasArt::Drucker, 2.4, 2.4, QSize(4960, 7016)) {}
-    Canvas& Leinwand() override { return *this; }
-    bool Oeffne() override {
-        ++m_seiten;
-        SetWindowOrgEx(0, 0);
-        return true;
-    }
-    void NeueSeite() override {
-        NewPage();
-        ++m_seiten;
-        SetWindowOrgEx(0, 0);
-    }
-    void Schliesse() override { EndDoc(); }
-    bool IstDatei() const override { return true; }
-    int Seiten() const override { return m_seiten; }
-
-private:
-    int m_seiten = 0;
-};
 
 int Px(double v) {
     return static_cast<int>(std::trunc(v * 5.67 / 2.4));
@@ -58,7 +33,7 @@ AppState Bogen(bool marken, bool rahmen) {
 
 TEST(Schnitthilfen, AchtBalkenJeEtikettAnDessenEcke) {
     AppState s = Bogen(true, false);
-    AufzeichnenderDrucker d;
+    Aufzeichnungsdrucker d;
     Oberflaeche o;
     Druckwahl w;
     w.Kopien = "3";
@@ -86,7 +61,7 @@ TEST(Schnitthilfen, AchtBalkenJeEtikettAnDessenEcke) {
 
 TEST(Schnitthilfen, SchnittrahmenUmJedesEtikettUndNichtsAufDemBriefkopf) {
     AppState s = Bogen(false, true);
-    AufzeichnenderDrucker d;
+    Aufzeichnungsdrucker d;
     Oberflaeche o;
     PrintDocument(s, o, d, Druckwahl{}, ProgrammDruckhilfen(o));
     const auto rahmen = d.Alle("Polyline");
@@ -98,7 +73,7 @@ TEST(Schnitthilfen, SchnittrahmenUmJedesEtikettUndNichtsAufDemBriefkopf) {
     AppState brief = Bogen(true, true);
     brief.IstEtikett = 0;
     brief.IstBriefkopf = -1;
-    AufzeichnenderDrucker b;
+    Aufzeichnungsdrucker b;
     PrintDocument(brief, o, b, Druckwahl{}, ProgrammDruckhilfen(o));
     EXPECT_TRUE(b.Alle("Rectangle").empty());
     EXPECT_TRUE(b.Alle("Polyline").empty());
