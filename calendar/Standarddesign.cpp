@@ -1,5 +1,7 @@
 #include "Standarddesign.h"
 
+#include <cmath>
+
 #include "core/AppState.h"
 #include "core/runtime/Basic.h"
 
@@ -130,10 +132,11 @@ public:
         t.AusrichtungV = static_cast<int16_t>(av);
         t.Bold = fett ? -1 : 0;
         t.Sichtbar = -1;
-        t.X = x;
-        t.Top = y;
-        t.widht = w;
-        t.Height = h;
+        // The design file keeps these four of a text as whole numbers (the reader cuts them).
+        t.X = std::floor(x);
+        t.Top = std::floor(y);
+        t.widht = std::floor(w);
+        t.Height = std::floor(h);
         return t;
     }
     ClassSchrift& Frei(int n, const QString& text, double x, double y, double w, double h, double punkt,

@@ -256,7 +256,7 @@ TEST(Befehle, JahrAusDerListeMitJaUndNein) {
     emit jahr->lineEdit()->editingFinished();
     EXPECT_EQ(f.s.Kalenderjahr, 2005);
     EXPECT_EQ(jahr->currentText(), "2005");
-    EXPECT_EQ(f.fenster->meldungen.size(), 1);
+    EXPECT_EQ(f.fenster->meldungen.count(QStringLiteral("Bitte geben Sie ein Jahr zwischen 1 und 9999 ein.")), 1);
 }
 
 TEST(Befehle, KartenMitDatensaetzenBlaettern) {

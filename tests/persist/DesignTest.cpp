@@ -491,15 +491,15 @@ TEST(SaveDesign, ShippedDesignsComeBackByteForByte) {
         ASSERT_TRUE(LadeDesignAusBytes(s, ui, *bytes)) << ui.meldungen.join(u'\n').toStdString();
         QStringList erwartet = zeilen;
         erwartet[4] = QStringLiteral("Reserve");
-        const QByteArray geschrieben = SchreibeDesign(s);
-        const QStringList ist = ZeilenAusBytes(geschrieben);
-        if (a == Ausgabe::Briefkopf && ist.size() == erwartet.size()) {
-            // Outside the Etikett edition the sheet's geometry (the 15 lines before the end mark)
-            // belongs to the settings file, so a design keeps what the settings say there.
+        QStringList geschrieben = ZeilenAusBytes(SchreibeDesign(s));
+        if (pfad.endsWith(u".zpk")) {
+            // Outside the Etikett edition the sheet's 15 geometry lines (before the end mark) are
+            // read and dropped, and a save writes the settings' sheet: those lines don't travel.
+            ASSERT_EQ(geschrieben.size(), erwartet.size()) << pfad.toStdString();
             for (qsizetype i = erwartet.size() - 16; i < erwartet.size() - 1; ++i)
-                erwartet[i] = ist[i];
+                erwartet[i] = geschrieben[i];
         }
-        EXPECT_EQ(Unterschied(geschrieben, BytesAusZeilen(erwartet)), "") << pfad.toStdString();
+        EXPECT_EQ(Unterschied(BytesAusZeilen(geschrieben), BytesAusZeilen(erwartet)), "") << pfad.toStdString();
         ++dateien;
     }
     EXPECT_GE(dateien, 1);
