@@ -19,6 +19,7 @@
 #include "core/runtime/Basic.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
 #include <QDesktopServices>
 #include <QDir>
@@ -75,6 +76,20 @@ void FrmMain::Verbinden() {
     bei("mnuFileSaveAs", [this] { BefehlSpeichernUnter(s, *this, m_d, Dateidialog::SpeichernUnter); });
     bei("mnuFileSaveAs2", [this] { BefehlSpeichernUnter(s, *this, m_d, Dateidialog::SpeichernUnter2); });
     bei("mnuFilePrint", [this] { Drucken(); });
+    bei("mnuBildSpeichern", [this] {
+        const QString datei =
+            SpeicherDateiWaehlen(QStringLiteral("Bild speichern"),
+                                 QStringLiteral("BMP-Bilddatei (*.bmp)|*.bmp"), QStringLiteral("ZP.bmp"));
+        if (datei.isEmpty() || !m_d.BildSpeichern) return;
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+        m_d.BildSpeichern(s, *this, datei);
+        QApplication::restoreOverrideCursor();
+    });
+    bei("mnuWord", [this] {
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+        DienstAusfuehren(m_d.Word, s, *this);
+        QApplication::restoreOverrideCursor();
+    });
     bei("mnuFileClose", [this] { close(); });
     bei("mnuFileExit", [this] { close(); });
 
@@ -300,8 +315,6 @@ void FrmMain::Freigaben() {
                              "popeinshinten",
                              "Toolbar1_Eigenschaft",
                              "Toolbar1_Einfügen",
-                             "mnuBildSpeichern",
-                             "mnuWord",
                              "Toolbar4_5",
                              "Toolbar5_5"};
     for (const char* name : spaeter)
@@ -326,6 +339,9 @@ void FrmMain::Freigaben() {
         m_typ[t]->setEnabled(laden && speichern);
     m_comboVariante->setEnabled(laden && speichern);
     m_list1->setEnabled(laden);
+    Aktion(QStringLiteral("mnuBildSpeichern"))->setEnabled(static_cast<bool>(m_d.BildSpeichern));
+    Aktion(QStringLiteral("mnuWord"))->setEnabled(static_cast<bool>(m_d.Word));
+    Aktion(QStringLiteral("mnuFilePrint"))->setEnabled(true);
     findChild<QPushButton*>(QStringLiteral("CommandBerechnen"))
         ->setEnabled(static_cast<bool>(m_d.CommandBerechnen));
 }
