@@ -74,6 +74,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* e) override;
+    bool eventFilter(QObject* objekt, QEvent* e) override;
     void showEvent(QShowEvent* e) override;
 
 private:

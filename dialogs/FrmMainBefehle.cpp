@@ -28,6 +28,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -138,7 +139,9 @@ void FrmMain::Verbinden() {
                 [this, k] { Toolbar5Knopf(k); });
     }
 
-    // Text boxes.
+    // Text boxes: focus selects the box's frame, leaving it draws what is still pending.
+    for (int i = 1; i <= 30; ++i)
+        m_text1[i]->installEventFilter(this);
     for (int i = 1; i <= 30; ++i) {
         connect(m_text1[i], &QLineEdit::textChanged, this, [this, i](const QString& t) {
             if (s.LadeSperre == 0) {
@@ -270,6 +273,13 @@ void FrmMain::Verbinden() {
                 if (!datei.isEmpty()) m_textbilddatei->setText(datei);
             });
 
+    // The page's context menu.
+    Seitenbild* seite = m_seite->PictureSeite();
+    seite->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(seite, &QWidget::customContextMenuRequested, this, [this, seite](const QPoint& p) {
+        if (auto* pop = findChild<QMenu*>(QStringLiteral("PopSchrift"))) pop->popup(seite->mapToGlobal(p));
+    });
+
     // The page: pointer position in the status bar.
     connect(m_seite->PictureSeite(), &Seitenbild::zeigerBewegt, this, [this](QPoint p) {
         const double f =
@@ -277,6 +287,28 @@ void FrmMain::Verbinden() {
         m_status[1]->setText(QStringLiteral("x: %1 mm").arg(p.x() / f / 10.0, 0, 'f', 1));
         m_status[2]->setText(QStringLiteral("y: %1 mm").arg(p.y() / f / 10.0, 0, 'f', 1));
     });
+}
+
+bool FrmMain::eventFilter(QObject* objekt, QEvent* e) {
+    if (e->type() == QEvent::FocusIn || e->type() == QEvent::FocusOut) {
+        for (int i = 1; i <= 30; ++i) {
+            if (objekt != m_text1[i]) continue;
+            if (e->type() == QEvent::FocusIn && s.Auswahlmodus == 0) {
+                // The box's text object and frame become the current ones.
+                s.LadeSperre = 255;
+                s.SchriftNummer = i;
+                s.RahmenNummer = i;
+                AuswahlAktualisieren();
+                s.LadeSperre = 0;
+                Neuzeichnen();
+            } else if (e->type() == QEvent::FocusOut && s.NeuzeichnenOffen != 0) {
+                s.NeuzeichnenOffen = 0;
+                if (s.LadeSperre == 0) Neuzeichnen();
+            }
+            break;
+        }
+    }
+    return QMainWindow::eventFilter(objekt, e);
 }
 
 void FrmMain::Freigaben() {

@@ -8,9 +8,11 @@
 #include "dialogs/Seitenansicht.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFile>
+#include <QFocusEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -322,6 +324,31 @@ TEST(Befehle, TextfeldFuehrtTextUndSichtbarkeit) {
     EXPECT_EQ(f.s.Datensaetze(2, 2), "Hauptstraße 1");
     EXPECT_EQ(f.s.Panel.Text1(22), "Hauptstraße 1");
     EXPECT_EQ(f.s.Rahmenliste(22).Sichtbar, -1); // frames 21 to 30 are left alone
+}
+
+TEST(Befehle, FokusWaehltDenRahmenDesTextfelds) {
+    Fenster f("ZP Briefkopf");
+    auto* box = f.kind<QLineEdit>("Text1_5");
+    QFocusEvent rein(QEvent::FocusIn);
+    QApplication::sendEvent(box, &rein);
+    EXPECT_EQ(f.s.SchriftNummer, 5);
+    EXPECT_EQ(f.s.RahmenNummer, 5);
+    EXPECT_EQ(f.s.LadeSperre, 0);
+    // While a new frame waits to be drawn the focus selects nothing.
+    f.s.Auswahlmodus = 1;
+    QApplication::sendEvent(f.kind<QLineEdit>("Text1_7"), &rein);
+    EXPECT_EQ(f.s.SchriftNummer, 5);
+}
+
+TEST(Befehle, HilfeOhneDateiSagtEs) {
+    Fenster f("ZP Etikett");
+    f.s.Hilfedatei = f.s.Programmpfad + "deutsch.hlp"; // no deutsch.html beside it
+    const qsizetype vorher = f.fenster->meldungen.size();
+    f.aktion("mnuHelpContents")->trigger();
+    ASSERT_EQ(f.fenster->meldungen.size(), vorher + 1);
+    EXPECT_EQ(f.fenster->meldungen.last(),
+              "Hilfeinhalt konnte nicht angezeigt werden. Dieser Anwendung ist keine "
+              "Hilfedatei zugeordnet.");
 }
 
 TEST(Befehle, SchliessenSchreibtDieDateienDesKalenders) {
