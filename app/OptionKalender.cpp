@@ -8,6 +8,7 @@
 #include "calendar/Tagesdaten.h"
 #include "core/AppState.h"
 #include "core/runtime/Basic.h"
+#include "persist/Design.h"
 
 #include <cmath>
 #include <optional>
@@ -50,17 +51,24 @@ private:
     bool m_ja;
 };
 
+// The design files of the program folder, written and read as the type buttons do.
+zp::Designablage Ablage(Batchlauf& lauf) {
+    zp::Oberflaeche& ui = lauf.ui;
+    return {[&ui](zp::AppState& s) { return zp::SaveDesign(s, ui); },
+            [&ui](zp::AppState& s) { return zp::LoadDesign(s, ui); }};
+}
+
 bool Typ(Batchlauf& lauf, const QString& argument) {
     if (!Kalender(lauf, QStringLiteral("--typ"))) return false;
     const auto typ = Zahl(lauf, QStringLiteral("--typ"), argument, 1, 7);
-    return typ && zp::CommandTyp(lauf.s, lauf.ui, zp::Designablage{}, *typ);
+    return typ && zp::CommandTyp(lauf.s, lauf.ui, Ablage(lauf), *typ);
 }
 
 bool Variante(Batchlauf& lauf, const QString& argument) {
     if (!Kalender(lauf, QStringLiteral("--variante"))) return false;
     const auto variante = Zahl(lauf, QStringLiteral("--variante"), argument, 1, 2);
-    return variante && zp::ComboVariante(lauf.s, lauf.ui, zp::Designablage{},
-                                         QStringLiteral("Variante %1").arg(*variante));
+    return variante &&
+           zp::ComboVariante(lauf.s, lauf.ui, Ablage(lauf), QStringLiteral("Variante %1").arg(*variante));
 }
 
 bool Jahr(Batchlauf& lauf, const QString& argument) {

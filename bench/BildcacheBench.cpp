@@ -3,8 +3,8 @@
 // photograph is loaded and corrected) and the following ones (the finished bitmap comes from the
 // picture cache). The goal for the following redraws is under 30 ms.
 #include "compose/ImageCanvas.h"
+#include "compose/ZeichneSeite.h"
 #include "core/AppState.h"
-#include "render/Bildweg.h"
 
 #include <QDir>
 #include <QImage>
@@ -46,7 +46,7 @@ struct Karte {
         s.Programmpfad = ordner.path() + "/";
         s.IstVisitenkarte = -1;
         s.Zoomfaktor = 150;
-        s.Zeichenfaktor = 1.5;
+        s.GridAn = 0;
         s.AktuellesEtikett.Breite = 850;
         s.AktuellesEtikett.Höhe = 550;
         s.AktuellesEtikett.Farbüberlauf = 5;
@@ -70,13 +70,11 @@ const Karte& DieKarte() {
     return karte;
 }
 
-// The picture steps of the page composition on the page picture.
+// The central redraw on the page picture.
 void Neuzeichnen(zp::AppState& s, zp::ImageCanvas& seite) {
-    seite.Cls();
-    zp::ZeichneBildHintergrund(s, seite);
-    zp::ZeichneKartendesign(s, seite, s.AktuellesEtikett.Breite, s.AktuellesEtikett.Höhe,
-                            s.AktuellesEtikett.Designbreite, s.AktuellesEtikett);
-    zp::ZeichneBildRahmen(s, seite, 1);
+    zp::Zeichenziele ziele;
+    ziele.PictureSeite = &seite;
+    zp::ZeichneSeite(s, ziele);
 }
 
 QSize Seitengroesse() {

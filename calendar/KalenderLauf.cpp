@@ -107,7 +107,7 @@ void KalenderRahmenLauf(AppState& s, KalenderZeichner& zeichner, int n) {
     int t = 0;
     // The month picture of the page goes into picture 1, which the month designs show.
     if ((typ == Monat1 || typ == Monat2) && s.Bildliste.Obergrenze() >= 1)
-        s.Bildliste(1).File = (m >= 1 && m <= 12) ? s.Monatsbilder(m) : QString();
+        s.Bildliste(1).File = (m >= 1 && m <= 12) ? Monatsbildpfad(s, s.Monatsbilder(m)) : QString();
 
     ClassRahmen& A = s.AktuellerRahmen;
     A = T;

@@ -1,5 +1,7 @@
 #include "Standarddesign.h"
 
+#include <cmath>
+
 #include "core/AppState.h"
 #include "core/runtime/Basic.h"
 
@@ -97,8 +99,31 @@ public:
     // Text frame n (role n for 1..8, a free label above), in the variant's typeface.
     ClassSchrift& Text(int n, double x, double y, double w, double h, double punkt, Farbe farbe,
                        int winkel = 0, int ah = Links, int av = Oben, bool fett = false) {
+        return TextObjekt(n, n, x, y, w, h, punkt, farbe, winkel, ah, av, fett);
+    }
+    // A label beyond the thirty text frames of the template (the page fills texts 21 to 30 from
+    // the side panel, so those can't carry labels): a frame and a text object of its own.
+    ClassSchrift& Zusatz(const QString& text, double x, double y, double w, double h, double punkt,
+                         Farbe farbe) {
+        const int n = static_cast<int>(s.RahmenAnzahl) + 1;
+        const int k = static_cast<int>(s.SchriftMax) + 1;
+        s.Rahmenliste.RedimPreserve(n);
+        s.Schriftliste.RedimPreserve(k);
+        s.RahmenAnzahl = n;
+        s.SchriftMax = k;
+        ClassRahmen& r = s.Rahmenliste(n);
+        r = ClassRahmen{};
+        r.Objekttyp = QStringLiteral("Schrift");
+        r.Objektnummer = k;
+        ClassSchrift& t = TextObjekt(n, k, x, y, w, h, punkt, farbe, 0, Mitte, Zentriert, false);
+        t.Textstring = text;
+        return t;
+    }
+    ClassSchrift& TextObjekt(int n, int k, double x, double y, double w, double h, double punkt, Farbe farbe,
+                             int winkel, int ah, int av, bool fett) {
         Rahmen(n, x, y, w, h);
-        ClassSchrift& t = s.Schriftliste(n);
+        ClassSchrift& t = s.Schriftliste(k);
+        t = ClassSchrift{};
         t.fontname = variante == 2 ? QStringLiteral("DejaVu Sans") : QStringLiteral("Arial");
         t.FontSize = punkt;
         t.Color1 = t.Color2 = farbe;
@@ -107,10 +132,11 @@ public:
         t.AusrichtungV = static_cast<int16_t>(av);
         t.Bold = fett ? -1 : 0;
         t.Sichtbar = -1;
-        t.X = x;
-        t.Top = y;
-        t.widht = w;
-        t.Height = h;
+        // The design file keeps these four of a text as whole numbers (the reader cuts them).
+        t.X = std::floor(x);
+        t.Top = std::floor(y);
+        t.widht = std::floor(w);
+        t.Height = std::floor(h);
         return t;
     }
     ClassSchrift& Frei(int n, const QString& text, double x, double y, double w, double h, double punkt,
@@ -222,10 +248,13 @@ void Tasche(Bau& b) {
     b.Text(2, x0, 55, block, 30, 6, st.akzent, 0, Mitte, Zentriert, true);
     b.Text(3, x0, y0, woche, zeile, 4.2, st.tinte, 0, Mitte, Zentriert);
     b.Text(7, 20, 592, 860, 25, 4.5, st.grau, 0, Mitte, Zentriert);
-    for (int baender = 0; baender < 2; ++baender)
-        for (int i = 0; i < 7; ++i)
-            b.Frei(9 + 7 * baender + i, QString::fromUtf8(kKopf[i]).left(1), 12,
-                   y0 + baender * band + i * zeile, 30, zeile, 4.5, i == 6 ? st.sonntag : st.grau);
+    // Weekday initials before both bands; the second band's go to frames of their own.
+    for (int i = 0; i < 7; ++i) {
+        const QString kuerzel = QString::fromUtf8(kKopf[i]).left(1);
+        const Farbe farbe = i == 6 ? st.sonntag : st.grau;
+        b.Frei(9 + i, kuerzel, 12, y0 + i * zeile, 30, zeile, 4.5, farbe);
+        b.Zusatz(kuerzel, 12, y0 + band + i * zeile, 30, zeile, 4.5, farbe);
+    }
 }
 
 // Monat 1: one month a page, the month picture above a grid of seven columns and six weeks.
@@ -331,6 +360,15 @@ void Planer(Bau& b) {
 } // namespace
 
 void BaueStandarddesign(AppState& s, int typ, int variante) {
+    // The sheet: one page, or for the pocket card two by four cards centred on A4.
+    ClassEtikett& e = s.AktuellesEtikett;
+    e.Breite = typ == 3 ? 900 : 2100;
+    e.Höhe = typ == 3 ? 620 : 2970;
+    e.Anzahl_x = typ == 3 ? 2 : 1;
+    e.Anzahl_y = typ == 3 ? 4 : 1;
+    e.Randlinks = typ == 3 ? 150 : 0;
+    e.Randoben = typ == 3 ? 245 : 0;
+    e.Abstand_x = e.Abstand_y = 0;
     Bau b(s, typ, variante == 2 ? 2 : 1);
     switch (typ) {
     case 1:

@@ -228,6 +228,12 @@ bool BilddateiGeaendert(AppState& s, const QString& pfad) {
     return s.Panel.ComboMonat == 0 && !pfad.isEmpty() && QFileInfo::exists(pfad);
 }
 
+QString Monatsbildpfad(const AppState& s, const QString& datei) {
+    if (datei.isEmpty() || QFileInfo(datei).isAbsolute() || QFileInfo::exists(datei)) return datei;
+    const QString imOrdner = s.Programmpfad + datei;
+    return QFileInfo::exists(imOrdner) ? imOrdner : datei;
+}
+
 void MonatsansichtenAufJahr(AppState& s, int jahr) {
     if (!JahrGueltig(jahr)) return;
     for (Monatsansicht* v : {&s.Panel.MonthView1, &s.Panel.MonthView2}) {

@@ -59,6 +59,10 @@ void MonatsbildWaehlen(AppState& s, int listenindex);
 void BildbeschreibungGeaendert(AppState& s, const QString& text);
 bool BilddateiGeaendert(AppState& s, const QString& pfad);
 
+// The file of a month picture as the drawing loads it: a relative name (the sample data's
+// "daten/bilder/...") is looked for in the program folder when it isn't found as it stands.
+[[nodiscard]] QString Monatsbildpfad(const AppState& s, const QString& datei);
+
 // A click on a year in ComboJahr. A year the date arithmetic can't hold is refused with a message
 // and changes nothing. Otherwise Kalenderjahr takes it, the user is asked whether the holidays are
 // to be calculated anew (not while a design loads), the month views move to the year, and the

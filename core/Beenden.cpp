@@ -2,8 +2,9 @@
 
 #include "AppState.h"
 #include "Start.h"
-#include "persist/Design.h"
+#include "calendar/Kalenderdateien.h"
 #include "persist/Datensaetze.h"
+#include "persist/Design.h"
 #include "persist/Einstellungen.h"
 #include "persist/Katalogdateien.h"
 
@@ -15,6 +16,7 @@ bool BeendenDateienSchreiben(AppState& s, Oberflaeche& ui) {
     ok = SaveSettings(s, ui) && ok;
     if (s.IstKalender != 0) {
         ok = SaveKalenderIni(s, ui) && ok;
+        ok = SpeichereAutoDaten(s, ui) && ok; // the day data's safety copy auto.zpd
         // The calendar's design goes back to the working design of its type and variant.
         s.AktuelleDatei = KalenderDesigndatei(s);
         ok = SaveDesign(s, ui) && ok;

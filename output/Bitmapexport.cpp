@@ -65,4 +65,14 @@ bool BildSpeichern(AppState& s, Zeichenziele& ziele, const QString& datei, const
     return lead2.SaveBmp(datei, fehler);
 }
 
+QImage ExportBild(AppState& s, QString* fehler) {
+    Zeichenziele ziele;
+    return ExportBild(s, ziele, ZeichneSeite, fehler);
+}
+
+bool BildSpeichern(AppState& s, const QString& datei, QString* fehler) {
+    Zeichenziele ziele;
+    return BildSpeichern(s, ziele, datei, ZeichneSeite, fehler);
+}
+
 } // namespace zp

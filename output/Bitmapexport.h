@@ -30,4 +30,9 @@ inline constexpr double ExportTwipsProPixel = 15;
 bool BildSpeichern(AppState& s, Zeichenziele& ziele, const QString& datei, const Komposition& zeichne,
                    QString* fehler = nullptr);
 
+// The same through ZeichneSeite, without a page picture (so no frame outlines). The first is the
+// form the word processor export takes its picture in.
+[[nodiscard]] QImage ExportBild(AppState& s, QString* fehler = nullptr);
+bool BildSpeichern(AppState& s, const QString& datei, QString* fehler = nullptr);
+
 } // namespace zp

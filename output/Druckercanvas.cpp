@@ -74,6 +74,11 @@ bool Druckercanvas::Oeffne() {
         NeueSeite();
         return true;
     }
+    if (m_pdf && !QFileInfo(QFileInfo(m_ziel).absolutePath()).isWritable()) {
+        m_fehler = QStringLiteral("Der Ordner \"%1\" fehlt oder ist schreibgeschützt.")
+                       .arg(QDir::toNativeSeparators(QFileInfo(m_ziel).absolutePath()));
+        return false;
+    }
     if (!m_pdf && !m_drucker.isValid()) {
         m_fehler = QStringLiteral("Der Drucker \"%1\" ist nicht verfügbar.").arg(m_drucker.printerName());
         return false;

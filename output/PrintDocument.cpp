@@ -231,9 +231,9 @@ bool Druckgang::NaechsteKalenderseite() {
         ausgabe.Schliesse();
         offen = ausgabe.Oeffne();
         if (!offen) {
-            o.Meldung(
-                QStringLiteral("Der Drucker kann nicht angesprochen werden. Der Druck wurde abgebrochen."),
-                kTitel, ausgabe.Fehlertext());
+            o.Meldung(QStringLiteral(
+                          "Der Drucker nimmt den nächsten Auftrag nicht an. Der Druck wurde abgebrochen."),
+                      kTitel, ausgabe.Fehlertext());
             abgebrochen = true;
             return false;
         }
@@ -278,8 +278,8 @@ Druckergebnis Druckgang::Laufe() {
     if (!offen) {
         alt.AllesZurueck(s);
         ZeigeDatensatz();
-        o.Meldung(QStringLiteral("Der Drucker kann nicht angesprochen werden. Es wurde nichts gedruckt."),
-                  kTitel, ausgabe.Fehlertext());
+        o.Meldung(QStringLiteral("Der Druck kann nicht beginnen. Es wurde nichts gedruckt."), kTitel,
+                  ausgabe.Fehlertext());
         return Druckergebnis::Fehler;
     }
 

@@ -13,7 +13,6 @@
 #include <QFileInfo>
 #include <QImageReader>
 #include <QLocale>
-#include <QPainter>
 #include <algorithm>
 #include <cmath>
 #include <list>
@@ -253,7 +252,23 @@ void Lead::Contrast(int wert) {
 void Lead::Saturation(int wert) {
     wert = std::clamp(wert, -1000, 1000);
     if (wert == 0 || !HatBild()) return;
-    d->Arbeitsbild().modulate(100.0, 100.0 + wert / 10.0, 100.0);
+    // Each colour moves away from (or towards) the pixel's grey of the same brightness: -1000 is
+    // grey, 1000 twice the colour. Done here rather than by the library's HSL round trip, which
+    // takes most of the time a large photograph needs for its corrections.
+    QImage q = d->Pixelbild();
+    const double faktor = 1.0 + wert / 1000.0;
+    auto kanal = [faktor](double c, double grau) {
+        return static_cast<int>(std::clamp(grau + (c - grau) * faktor, 0.0, 255.0) + 0.5);
+    };
+    for (int y = 0; y < q.height(); ++y) {
+        auto* zeile = reinterpret_cast<QRgb*>(q.scanLine(y));
+        for (int x = 0; x < q.width(); ++x) {
+            const QRgb p = zeile[x];
+            const double grau = 0.299 * qRed(p) + 0.587 * qGreen(p) + 0.114 * qBlue(p);
+            zeile[x] = qRgb(kanal(qRed(p), grau), kanal(qGreen(p), grau), kanal(qBlue(p), grau));
+        }
+    }
+    d->bitmap = std::move(q);
 }
 
 void Lead::Hue(int grad) {
@@ -416,7 +431,11 @@ bool Lead::SaveBmp(const QString& datei, QString* fehler) const {
         return false;
     }
     const QByteArray bytes(static_cast<const char*>(blob.data()), static_cast<qsizetype>(blob.length()));
-    return SchreibeDateiAtomar(datei, bytes, fehler);
+    QString grund;
+    if (SchreibeDateiAtomar(datei, bytes, &grund)) return true;
+    if (fehler)
+        *fehler = QStringLiteral("Das Bild kann nicht unter „%1“ gespeichert werden (%2).").arg(datei, grund);
+    return false;
 }
 
 } // namespace zp

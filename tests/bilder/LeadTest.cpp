@@ -232,6 +232,8 @@ TEST(LeadLaden, BadFilesThrowAGermanMessageAndKeepTheFormerBitmap) {
     riesig[0] = 'B', riesig[1] = 'M';
     le32(2, 54), le32(10, 54), le32(14, 40), le32(18, 30000), le32(22, 30000);
     riesig[26] = 1, riesig[28] = 24;
+    QByteArray nichts = riesig; // the same header for 0 x 0 pixels
+    nichts.replace(18, 8, QByteArray(8, '\0'));
 
     QByteArray jpeg;
     {
@@ -244,6 +246,7 @@ TEST(LeadLaden, BadFilesThrowAGermanMessageAndKeepTheFormerBitmap) {
         {schreibe("leer.jpg", {}), "leer"},
         {schreibe("text.jpg", "Das ist kein Bild, nur Text.\r\n"), "geladen"},
         {schreibe("riesig.bmp", riesig), "zu groß"},
+        {schreibe("leer.bmp", nichts), "Bild"},
         {schreibe("kaputt.png", QByteArray("\x89PNG\r\n\x1a\n", 8) + QByteArray(40, 'x')), "geladen"},
     };
     for (const auto& [datei, teil] : faelle) {
@@ -308,7 +311,7 @@ namespace {
 TEST(MitgelieferteMuster, AtLeastTwelvePatternsLoad) {
     Lead lead;
     for (int m = 1; m <= 12; ++m) {
-        const QString datei = MitgelieferteDaten(QString("must%1.jpg").arg(m));
+        const QString datei = MitgelieferteDaten(QString("programm/daten/must%1.jpg").arg(m));
         ASSERT_NO_THROW(lead.Load(datei)) << datei.toStdString();
         EXPECT_GE(lead.BitmapWidth(), 400);
         EXPECT_GT(Streuung(lead.Bitmap()), 1.0) << "plain, no pattern: " << datei.toStdString();

@@ -159,7 +159,8 @@ TEST_F(Bitmapexport, AnUnwritableFileIsReported) {
     const Komposition nichts = [](AppState&, Zeichenziele&) {};
     QString fehler;
     EXPECT_FALSE(BildSpeichern(s, ziele, QDir(tmp.path()).filePath("fehlt/ZP.bmp"), nichts, &fehler));
-    EXPECT_FALSE(fehler.isEmpty());
+    EXPECT_TRUE(fehler.contains("fehlt/ZP.bmp")) << fehler.toStdString();
+    EXPECT_TRUE(fehler.contains("gespeichert")) << fehler.toStdString();
 }
 
 } // namespace

@@ -158,3 +158,33 @@ TEST(Kal, BadFilesReportAndChangeNothing) {
     EXPECT_EQ(s.Feiertage(24, 12), u"Hl. Abend");
     EXPECT_EQ(s.Datendatei, pfad);
 }
+
+TEST(Robustheit, DamagedFilesEndInAFormatErrorOrAResultNeverInAnotherFault) {
+    Kalenderdaten d;
+    d.Termine(3, 4) = QStringLiteral("zwei\r\nZeilen");
+    d.Feiertage(1, 1) = QStringLiteral("Neujahr");
+    const QByteArray gut = ZpdBytes(d);
+    const QByteArray kal = KalDatei("01.01Eins|24.12Heiligabend|5.6Kurz|");
+    auto pruefe = [](auto&& lesen, const QByteArray& b) {
+        try {
+            (void)lesen(b);
+        } catch (const FormatFehler&) {
+        } catch (const std::exception& e) {
+            ADD_FAILURE() << "unerwarteter Fehler: " << e.what();
+        }
+    };
+    const auto zpd = [](const QByteArray& b) { return ZpdLesen(b); };
+    const auto alt = [](const QByteArray& b) { return KalLesen(b); };
+    for (int i = 0; i < gut.size(); i += 37) {
+        pruefe(zpd, gut.left(i));
+        QByteArray kaputt = gut;
+        kaputt[i] = static_cast<char>("-1x|\r\n\xFC."[i % 8]);
+        pruefe(zpd, kaputt);
+    }
+    for (int i = 0; i < kal.size(); ++i) {
+        pruefe(alt, kal.left(i));
+        QByteArray kaputt = kal;
+        kaputt[i] = static_cast<char>("-0x|.\n9\xE4"[i % 8]);
+        pruefe(alt, kaputt);
+    }
+}

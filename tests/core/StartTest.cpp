@@ -192,16 +192,19 @@ TEST(LadeStartzustand, EditionFilesAndStartDocument) {
 
     QTemporaryDir tmp2;
     AppState v = Gestartet(tmp2, QStringLiteral("Visitenkarte"), ui);
-    v.Datensaetze(1, 1) = QStringLiteral("Erika Mustermann");
     EXPECT_TRUE(LadeStartzustand(v, ui));
     EXPECT_EQ(v.SchriftNummer, 21);
-    EXPECT_EQ(v.Panel.Text1(25), u"Tel.:");
-    EXPECT_EQ(v.Datensaetze(1, 1), u"Erika Mustermann"); // the start document is a template
+    // The records come from the shipped daten.dat, not from the start document (a template), and
+    // the record on view fills the boxes 21 to 30 after the start document's own "Tel.:".
+    EXPECT_EQ(v.Datensaetze(1, 1), u"Anna Schneider");
+    EXPECT_EQ(v.Panel.Text1(21), v.Datensaetze(1, 1));
+    EXPECT_EQ(v.Panel.Text1(25), v.Datensaetze(5, 1));
 
     // The calendar starts on its type's working design; without it the built-in document stays.
     QTemporaryDir tmp3;
     AppState k = Gestartet(tmp3, QStringLiteral("Kalender"), ui);
     QFile::remove(tmp3.filePath(QStringLiteral("kal1.zpk")));
+    QFile::remove(tmp3.filePath(QStringLiteral("kal1v2.zpk"))); // shipped beside kal1.zpk
     k.Designvariante = QStringLiteral("v2");
     EXPECT_FALSE(LadeStartzustand(k, ui));
     EXPECT_TRUE(ui.liste.last().contains(u"kal1v2.zpk"));
@@ -220,10 +223,12 @@ TEST(Beenden, WritesTheEditionsFiles) {
     EXPECT_TRUE(LeseDatei(tmp.filePath(QStringLiteral("kal3.zpk")))->startsWith("ZP Datenfile\r\n"));
     EXPECT_TRUE(LeseDatei(tmp.filePath(QStringLiteral("kalender.ini")))->endsWith("\r\n1193046\r\n"));
     EXPECT_TRUE(LeseDatei(tmp.filePath(QStringLiteral("zp.ini")))->contains("Kalendertyp =  3\r\n"));
+    EXPECT_EQ(k.Datendatei, tmp.path() + QStringLiteral("/auto.zpd")); // the day data's safety copy
+    EXPECT_EQ(LeseDatei(k.Datendatei)->count("\r\n"), 2630);
 
     // A folder that can't be written: told, and the result says so.
     k.Programmpfad = tmp.filePath(QStringLiteral("weg/"));
     ui.liste.clear();
     EXPECT_FALSE(BeendenDateienSchreiben(k, ui));
-    EXPECT_EQ(ui.liste.size(), 3);
+    EXPECT_EQ(ui.liste.size(), 4);
 }

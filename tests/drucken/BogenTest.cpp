@@ -269,7 +269,7 @@ TEST(Bogen, DruckerFehltMeldungUndNichtsVeraendert) {
     w.Adressen = Adresswahl::Alle;
     EXPECT_EQ(PrintDocument(s, o, d, w, d.Hilfen()), Druckergebnis::Fehler);
     ASSERT_EQ(o.Meldungen.size(), 1u);
-    EXPECT_TRUE(o.Meldungen[0].first.contains("Drucker"));
+    EXPECT_TRUE(o.Meldungen[0].first.startsWith("Der Druck kann nicht beginnen"));
     EXPECT_DOUBLE_EQ(s.DatensatzNummer, 2);
     EXPECT_EQ(s.Panel.Text1(21), "Name 2");
     EXPECT_EQ(s.AktuelleSeite.Randlinks, 72);

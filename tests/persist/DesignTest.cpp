@@ -6,6 +6,7 @@
 #include "core/runtime/TextDatei.h"
 
 #include <QDirIterator>
+#include <QFileInfo>
 #include <gtest/gtest.h>
 
 using namespace zp;
@@ -468,6 +469,8 @@ TEST(SaveDesign, ShippedDesignsComeBackByteForByte) {
     int dateien = 0;
     while (it.hasNext()) {
         const QString pfad = it.next();
+        // Layout1.lay ... Layout5.lay are arrangements for the layout buttons, read by their own reader.
+        if (QFileInfo(pfad).fileName().startsWith(u"Layout")) continue;
         const auto bytes = LeseDatei(pfad);
         ASSERT_TRUE(bytes) << pfad.toStdString();
         const QStringList zeilen = ZeilenAusBytes(*bytes);
@@ -486,7 +489,15 @@ TEST(SaveDesign, ShippedDesignsComeBackByteForByte) {
         ASSERT_TRUE(LadeDesignAusBytes(s, ui, *bytes)) << ui.meldungen.join(u'\n').toStdString();
         QStringList erwartet = zeilen;
         erwartet[4] = QStringLiteral("Reserve");
-        EXPECT_EQ(Unterschied(SchreibeDesign(s), BytesAusZeilen(erwartet)), "") << pfad.toStdString();
+        QStringList geschrieben = ZeilenAusBytes(SchreibeDesign(s));
+        if (pfad.endsWith(u".zpk")) {
+            // Outside the Etikett edition the sheet's 15 geometry lines (before the end mark) are
+            // read and dropped, and a save writes the settings' sheet: those lines don't travel.
+            ASSERT_EQ(geschrieben.size(), erwartet.size()) << pfad.toStdString();
+            for (qsizetype i = erwartet.size() - 16; i < erwartet.size() - 1; ++i)
+                erwartet[i] = geschrieben[i];
+        }
+        EXPECT_EQ(Unterschied(BytesAusZeilen(geschrieben), BytesAusZeilen(erwartet)), "") << pfad.toStdString();
         ++dateien;
     }
     EXPECT_GE(dateien, 1);

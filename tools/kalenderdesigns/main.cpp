@@ -2,21 +2,26 @@
 //
 //   kalenderdesigns PROGRAMMDATEN [--vorschau ORDNER --jahr N]
 //
-// writes daten/bilder/monat01.jpg ... monat12.jpg and beispiel.zpd into PROGRAMMDATEN (the folder
+// writes the standard designs daten/kal<n>[v2].zpk with their working copies kal<n>[v2].zpk,
+// daten/bilder/monat01.jpg ... monat12.jpg and beispiel.zpd into PROGRAMMDATEN (the folder
 // that is copied into a new program folder), and with --vorschau a PNG of page 1 of every type
 // and variant (and the last week page) with the sample data, holidays calculated.
 #include "Monatsbilder.h"
-#include "Vorschau.h"
 
 #include "calendar/Feiertage.h"
 #include "calendar/Standarddesign.h"
 #include "calendar/Tagesdaten.h"
+#include "compose/Seitenbild.h"
 #include "core/AppState.h"
+#include "core/Oberflaeche.h"
+#include "core/Start.h"
 #include "core/runtime/Basic.h"
 #include "core/runtime/TextDatei.h"
+#include "persist/Design.h"
 #include "persist/Kalenderdaten.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <cstdio>
 
@@ -108,6 +113,24 @@ int main(int argc, char** argv) {
         return 1;
     }
 
+    // The standard designs under daten/ and the working copies beside them, the same at first.
+    Oberflaeche ui;
+    for (int typ = 1; typ <= 7; ++typ)
+        for (int variante = 1; variante <= 2; ++variante) {
+            AppState s;
+            s.IstKalender = -1;
+            s.Programmname = QStringLiteral("ZP Kalender");
+            BaueStandarddesign(s, typ, variante);
+            const QString name =
+                QStringLiteral("kal%1%2.zpk").arg(typ).arg(variante == 2 ? QStringLiteral("v2") : QString());
+            for (const QString& datei : {ziel + QStringLiteral("daten/") + name, ziel + name})
+                if (!SchreibeDateiAtomar(datei, SchreibeDesign(s), &fehler)) {
+                    std::fprintf(stderr, "%s\n", qPrintable(fehler));
+                    return 1;
+                }
+        }
+
+    // Previews: each design read back from its file and composed as the page picture shows it.
     if (!vorschau.isEmpty()) {
         QDir().mkpath(vorschau);
         for (int typ = 1; typ <= 7; ++typ)
@@ -119,19 +142,27 @@ int main(int argc, char** argv) {
                     AppState s;
                     s.Programmpfad = ziel;
                     Grundzustand(s, jahr);
-                    BaueStandarddesign(s, typ, variante);
+                    LeseSchriftenliste(s);
+                    s.Kalendertyp = typ;
+                    s.Designvariante = variante == 2 ? QStringLiteral("v2") : QString();
+                    s.AktuelleDatei =
+                        ziel + QStringLiteral("daten/") + QFileInfo(KalenderDesigndatei(s)).fileName();
+                    if (!LoadDesign(s, ui)) return 1;
                     s.Seitennummer = seite;
                     s.Panel.TextTitel = QStringLiteral("Familienkalender %1").arg(jahr);
+                    s.Schriftliste(1).Textstring = s.Panel.TextTitel;
+                    s.Zoomfaktor = typ == 7 ? 180 : 100;
+                    s.GridAn = 0;   // the page as printed, without the editing grid
                     if (typ == 3) { // the pocket card alone, large enough to read
                         s.AktuelleSeite.Breite = 920;
                         s.AktuelleSeite.Höhe = 640;
+                        s.Zoomfaktor = 250;
                     }
-                    const QImage bild = werkzeug::Kalenderseite(s, typ == 3 ? 250 : typ == 7 ? 180 : 100);
-                    bild.save(QStringLiteral("%1/kal%2v%3_s%4.png")
-                                  .arg(vorschau)
-                                  .arg(typ)
-                                  .arg(variante)
-                                  .arg(seite));
+                    ZeichneSeitenbild(s).save(QStringLiteral("%1/kal%2v%3_s%4.png")
+                                                  .arg(vorschau)
+                                                  .arg(typ)
+                                                  .arg(variante)
+                                                  .arg(seite));
                 }
             }
     }

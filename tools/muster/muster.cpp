@@ -1,6 +1,7 @@
-// Makes the pattern pictures behind cards and labels (daten/must1.jpg ... must14.jpg): paper,
-// linen, cork, marble, wood, granite, soft gradients, dots, stripes, checks and waves. Every
-// pattern is computed from a fixed seed, so the files come out the same on every run.
+// Makes the pattern pictures behind cards and labels (must1.jpg ... must14.jpg, shipped in the
+// program folder's daten/): paper, linen, cork, marble, wood, granite, soft gradients, dots,
+// stripes, checks and waves. Every pattern is computed from a fixed seed, so the files come out
+// the same on every run.
 //
 //   zp_muster <folder>
 

@@ -1,0 +1,26 @@
+// --bmp DATEI: the page as a bitmap file, as "Bild speichern" writes it without its dialog.
+#include "Kommandozeile.h"
+
+#include "core/AppState.h"
+#include "output/Bitmapexport.h"
+#include "render/Bildwerk.h"
+
+namespace {
+
+bool SchreibeBmp(zp::Batchlauf& lauf, const QString& datei) {
+    // A picture that can't be loaded is told like every other message of the run.
+    zp::BildwerkVon(lauf.s).Meldungen = &lauf.ui;
+    QString fehler;
+    if (!zp::BildSpeichern(lauf.s, datei, &fehler)) {
+        lauf.Fehler(fehler);
+        return false;
+    }
+    return true;
+}
+
+const bool registriert = zp::RegistriereOption(
+    {QStringLiteral("--bmp"), QStringLiteral("DATEI"),
+     QStringLiteral("die Seite als BMP-Bild schreiben (wie „Bild speichern“, im Exportzoom)"),
+     zp::OptionArt::Aktion, SchreibeBmp});
+
+} // namespace
