@@ -56,9 +56,13 @@ struct Dokumentdienste {
                        const std::function<bool(int, int)>&)>
         Drucken;
 
-    // The page on a picture: runs the central composition on an image canvas of the given size in
-    // device pixels. Unset, the page view shows the bare page.
-    std::function<bool(AppState&, QImage&)> ZeichneSeiteAufBild;
+    // The page picture as the view shows it, composed at the present zoom. Unset, the view shows
+    // the bare sheet.
+    std::function<QImage(AppState&)> Seitenbild;
+    // mnuBildSpeichern: the page as a BMP file under the given name.
+    std::function<bool(AppState&, Oberflaeche&, const QString&)> BildSpeichern;
+    // mnuWord: the page in a new text document, opened on the desktop.
+    Dienst Word;
 };
 
 // Runs one operation if it is bound. An exception from it is told to the user and never ends the

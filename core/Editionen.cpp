@@ -62,13 +62,15 @@ Panelwahl StartPanels(Edition e) {
 }
 
 QString Eingabebeschriftung(Edition e, int i) {
-    if (e == Edition::Visitenkarte) {
-        static const char* const namen[] = {"...", "...", "...", "...", "Telefon", "Ort", "Straße", "Name"};
-        if (i >= 19 && i <= 26) return QString::fromUtf8(namen[i - 19]);
+    // The business card names the record's first four fields; the label sheet numbers its texts
+    // and its record fields.
+    if (e == Edition::Visitenkarte && i >= 21 && i <= 28) {
+        static const char* const namen[] = {"Name", "Straße", "Ort", "Telefon", "...", "...", "...", "..."};
+        return QString::fromUtf8(namen[i - 21]);
     }
     if (e == Edition::Etikett) {
         if (i >= 1 && i <= 10) return QStringLiteral("Text %1").arg(i);
-        if (i >= 11 && i <= 19) return QStringLiteral("Data %1").arg(i - 10);
+        if (i >= 21 && i <= 29) return QStringLiteral("Data %1").arg(i - 20);
     }
     if (i >= 21 && i <= 30) return QStringLiteral("Feld %1").arg(i - 20);
     return QStringLiteral("Text %1").arg(i);

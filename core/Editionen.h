@@ -33,7 +33,7 @@ struct Panelwahl {
 };
 [[nodiscard]] Panelwahl StartPanels(Edition e);
 
-// The caption of label Label1(i) beside the input box Text1(i), or empty for the default.
+// The caption of label Label1(i) beside the input box Text1(i).
 [[nodiscard]] QString Eingabebeschriftung(Edition e, int i);
 
 } // namespace zp

@@ -133,14 +133,9 @@ void FrmMain::Laden() {
     // 9. The check marks follow the settings.
     Haekchen();
 
-    // 10. The zoom fits the page's width (calendar, letterhead) or the whole label.
-    if (layout()) layout()->activate();
-    const QSizeF vp = m_seite->ViewportTwips(s.TwipsProPixelX);
-    if (vp.width() > 0 && vp.height() > 0) {
-        const double z = ZoomBeimStart(s, vp.width(), vp.height());
-        if (z >= 1) s.Zoomfaktor = z;
-    }
-    ApplyZoom();
+    // 10. The zoom fits the page's width (calendar, letterhead) or the whole label; the viewport
+    // has its size once the window is laid out, so the fit is made again before the first paint.
+    ZoomEinpassen();
 
     // 12. and 13. The format bar's button and lists: scalable fonts, sizes 8 to 72 by 2.
     Aktion(QStringLiteral("Toolbar1_Eigenschaft"))->setText(QStringLiteral("Schriftart"));
@@ -164,11 +159,22 @@ void FrmMain::Laden() {
     if (e != Edition::Kalender) ZeigeDatensatz(s, *this);
 }
 
+void FrmMain::ZoomEinpassen() {
+    if (layout()) layout()->activate();
+    const QSizeF vp = m_seite->ViewportTwips(s.TwipsProPixelX > 0 ? s.TwipsProPixelX : 15);
+    if (vp.width() > 0 && vp.height() > 0) {
+        const double z = ZoomBeimStart(s, vp.width(), vp.height());
+        if (z >= 1) s.Zoomfaktor = z;
+    }
+    ApplyZoom();
+}
+
 void FrmMain::showEvent(QShowEvent* e) {
     QMainWindow::showEvent(e);
     if (m_ersteAnzeige) {
         // The first paint ends the start-up lock.
         m_ersteAnzeige = false;
+        ZoomEinpassen();
         Neuzeichnen();
         s.LadeSperre = 0;
     }
@@ -213,7 +219,11 @@ void FrmMain::Neuzeichnen() {
                       std::max(1, static_cast<int>(std::lround(twips.height() / ty))));
     QImage bild(pixel, QImage::Format_RGB32);
     bild.fill(Qt::white);
-    if (!m_d.ZeichneSeiteAufBild || !DienstAusfuehrenBild(bild)) {
+    if (m_d.Seitenbild) {
+        QImage seite = SeiteZeichnen();
+        if (!seite.isNull()) bild = std::move(seite);
+    }
+    if (!m_d.Seitenbild) {
         // Without the composition the view shows the bare sheet with its edge.
         QPainter p(&bild);
         p.setPen(QColor(160, 160, 160));
@@ -222,13 +232,13 @@ void FrmMain::Neuzeichnen() {
     m_seite->PictureSeite()->BildSetzen(std::move(bild));
 }
 
-bool FrmMain::DienstAusfuehrenBild(QImage& bild) {
+QImage FrmMain::SeiteZeichnen() {
     try {
-        return m_d.ZeichneSeiteAufBild(s, bild);
+        return m_d.Seitenbild(s);
     } catch (const std::exception& e) {
         Meldung(QStringLiteral("Die Seite konnte nicht gezeichnet werden."), QStringLiteral("Warnung!"),
                 QString::fromUtf8(e.what()));
-        return false;
+        return {};
     }
 }
 
@@ -320,6 +330,10 @@ void FrmMain::FokusFeldbox(int i) {
 
 void FrmMain::Statusmeldung(const QString& text) {
     statusBar()->showMessage(text, 5000);
+}
+
+QString FrmMain::SpeicherDateiWaehlen(const QString& titel, const QString& filter, const QString& vorschlag) {
+    return QFileDialog::getSaveFileName(this, titel, s.Programmpfad + vorschlag, QtDateifilter(filter));
 }
 
 QString FrmMain::QtDateiWaehlen(const QString& titel, const QString& qtFilter) {

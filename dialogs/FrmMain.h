@@ -54,6 +54,9 @@ public:
     void Statusmeldung(const QString& text) override;
     // A file to open with a filter already in Qt's form.
     virtual QString QtDateiWaehlen(const QString& titel, const QString& qtFilter);
+    // A file to save, with a suggested name.
+    virtual QString SpeicherDateiWaehlen(const QString& titel, const QString& filter,
+                                         const QString& vorschlag);
 
     // The colour dialog: the chosen colour, or nothing when cancelled.
     virtual std::optional<QColor> FarbeWaehlen(const QColor& start);
@@ -62,6 +65,7 @@ public:
     void ZoomSetzen(double zoom); // zoom menus: LadeSperre, ApplyZoom, redraw
     void Commandzoom(int index);  // 1 a step up, 0 a step down
     void ApplyZoom();
+    void ZoomEinpassen();        // the fit of the start: page width or whole label
     void Panelzeigen(int frame); // brings Frame1(frame) to the front
 
     [[nodiscard]] QAction* Aktion(const QString& name) const;
@@ -70,6 +74,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* e) override;
+    bool eventFilter(QObject* objekt, QEvent* e) override;
     void showEvent(QShowEvent* e) override;
 
 private:
@@ -111,7 +116,7 @@ private:
     void Hilfe();
     void Drucken();
     void FarbfeldZeigen(QToolButton* feld, int farbe);
-    bool DienstAusfuehrenBild(QImage& bild);
+    QImage SeiteZeichnen();
 
     AppState& s;
     Dokumentdienste m_d;

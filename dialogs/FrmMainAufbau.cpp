@@ -273,7 +273,7 @@ QWidget* FrmMain::PanelDatensatz() {
     for (int i = 0; i < 4; ++i) {
         auto* b = new QPushButton(QString::fromLatin1(titel[i]));
         b->setObjectName(QString::fromLatin1(namen[i]));
-        b->setMaximumWidth(36);
+        b->setMaximumWidth(32);
         nav->addWidget(b);
     }
     m_textData = new QLineEdit;
@@ -291,11 +291,11 @@ QWidget* FrmMain::PanelDatensatz() {
         f->addRow(m_label1[i], m_text1[i]);
     }
     v->addLayout(f);
-    auto* suchen = new QHBoxLayout;
     auto* textSuchen = new QLineEdit;
     textSuchen->setObjectName(QStringLiteral("TextSuchen"));
     textSuchen->setPlaceholderText(QStringLiteral("Suchtext"));
-    suchen->addWidget(textSuchen);
+    v->addWidget(textSuchen);
+    auto* suchen = new QHBoxLayout;
     const char* knoepfe[][2] = {{"Command1", "Suchen"}, {"Command2", "Löschen"}, {"Command3", "Einfügen"}};
     for (auto& k : knoepfe) {
         auto* b = new QPushButton(QString::fromUtf8(k[1]));
@@ -415,7 +415,7 @@ QWidget* FrmMain::PanelKalender() {
     seite->addWidget(m_textSeite);
     seite->addWidget(m_upDownSeite);
     seite->addStretch();
-    f->addRow(QStringLiteral("&Seite"), seite);
+    f->addRow(QStringLiteral("Seite"), seite);
     m_textTitel = new QLineEdit;
     m_textTitel->setObjectName(QStringLiteral("TextTitel"));
     f->addRow(QStringLiteral("&Titel"), m_textTitel);
@@ -459,7 +459,7 @@ QWidget* FrmMain::PanelMonatsbilder() {
 void FrmMain::PanelsAnlegen() {
     m_frame1 = new QStackedWidget;
     m_frame1->setObjectName(QStringLiteral("Frame1"));
-    m_frame1->setMinimumWidth(250);
+    m_frame1->setMinimumWidth(270);
     m_panels = {{1, PanelTexte()},   {3, PanelLayouts()},   {4, PanelDatensatz()}, {5, PanelGalerie()},
                 {6, PanelTermine()}, {7, PanelFeiertage()}, {8, PanelKalender()},  {9, PanelMonatsbilder()}};
     for (QWidget* w : m_panels)
@@ -471,7 +471,7 @@ void FrmMain::PanelsAnlegen() {
     teiler->addWidget(m_frame1);
     teiler->addWidget(m_seite);
     teiler->setStretchFactor(1, 1);
-    teiler->setSizes({260, 520});
+    teiler->setSizes({280, 500});
     teiler->setChildrenCollapsible(false);
     setCentralWidget(teiler);
 

@@ -19,6 +19,7 @@
 #include "core/runtime/Basic.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
 #include <QDesktopServices>
 #include <QDir>
@@ -27,6 +28,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -75,6 +77,20 @@ void FrmMain::Verbinden() {
     bei("mnuFileSaveAs", [this] { BefehlSpeichernUnter(s, *this, m_d, Dateidialog::SpeichernUnter); });
     bei("mnuFileSaveAs2", [this] { BefehlSpeichernUnter(s, *this, m_d, Dateidialog::SpeichernUnter2); });
     bei("mnuFilePrint", [this] { Drucken(); });
+    bei("mnuBildSpeichern", [this] {
+        const QString datei =
+            SpeicherDateiWaehlen(QStringLiteral("Bild speichern"),
+                                 QStringLiteral("BMP-Bilddatei (*.bmp)|*.bmp"), QStringLiteral("ZP.bmp"));
+        if (datei.isEmpty() || !m_d.BildSpeichern) return;
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+        m_d.BildSpeichern(s, *this, datei);
+        QApplication::restoreOverrideCursor();
+    });
+    bei("mnuWord", [this] {
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+        DienstAusfuehren(m_d.Word, s, *this);
+        QApplication::restoreOverrideCursor();
+    });
     bei("mnuFileClose", [this] { close(); });
     bei("mnuFileExit", [this] { close(); });
 
@@ -123,7 +139,9 @@ void FrmMain::Verbinden() {
                 [this, k] { Toolbar5Knopf(k); });
     }
 
-    // Text boxes.
+    // Text boxes: focus selects the box's frame, leaving it draws what is still pending.
+    for (int i = 1; i <= 30; ++i)
+        m_text1[i]->installEventFilter(this);
     for (int i = 1; i <= 30; ++i) {
         connect(m_text1[i], &QLineEdit::textChanged, this, [this, i](const QString& t) {
             if (s.LadeSperre == 0) {
@@ -255,6 +273,13 @@ void FrmMain::Verbinden() {
                 if (!datei.isEmpty()) m_textbilddatei->setText(datei);
             });
 
+    // The page's context menu.
+    Seitenbild* seite = m_seite->PictureSeite();
+    seite->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(seite, &QWidget::customContextMenuRequested, this, [this, seite](const QPoint& p) {
+        if (auto* pop = findChild<QMenu*>(QStringLiteral("PopSchrift"))) pop->popup(seite->mapToGlobal(p));
+    });
+
     // The page: pointer position in the status bar.
     connect(m_seite->PictureSeite(), &Seitenbild::zeigerBewegt, this, [this](QPoint p) {
         const double f =
@@ -262,6 +287,28 @@ void FrmMain::Verbinden() {
         m_status[1]->setText(QStringLiteral("x: %1 mm").arg(p.x() / f / 10.0, 0, 'f', 1));
         m_status[2]->setText(QStringLiteral("y: %1 mm").arg(p.y() / f / 10.0, 0, 'f', 1));
     });
+}
+
+bool FrmMain::eventFilter(QObject* objekt, QEvent* e) {
+    if (e->type() == QEvent::FocusIn || e->type() == QEvent::FocusOut) {
+        for (int i = 1; i <= 30; ++i) {
+            if (objekt != m_text1[i]) continue;
+            if (e->type() == QEvent::FocusIn && s.Auswahlmodus == 0) {
+                // The box's text object and frame become the current ones.
+                s.LadeSperre = 255;
+                s.SchriftNummer = i;
+                s.RahmenNummer = i;
+                AuswahlAktualisieren();
+                s.LadeSperre = 0;
+                Neuzeichnen();
+            } else if (e->type() == QEvent::FocusOut && s.NeuzeichnenOffen != 0) {
+                s.NeuzeichnenOffen = 0;
+                if (s.LadeSperre == 0) Neuzeichnen();
+            }
+            break;
+        }
+    }
+    return QMainWindow::eventFilter(objekt, e);
 }
 
 void FrmMain::Freigaben() {
@@ -300,8 +347,6 @@ void FrmMain::Freigaben() {
                              "popeinshinten",
                              "Toolbar1_Eigenschaft",
                              "Toolbar1_Einfügen",
-                             "mnuBildSpeichern",
-                             "mnuWord",
                              "Toolbar4_5",
                              "Toolbar5_5"};
     for (const char* name : spaeter)
@@ -326,6 +371,9 @@ void FrmMain::Freigaben() {
         m_typ[t]->setEnabled(laden && speichern);
     m_comboVariante->setEnabled(laden && speichern);
     m_list1->setEnabled(laden);
+    Aktion(QStringLiteral("mnuBildSpeichern"))->setEnabled(static_cast<bool>(m_d.BildSpeichern));
+    Aktion(QStringLiteral("mnuWord"))->setEnabled(static_cast<bool>(m_d.Word));
+    Aktion(QStringLiteral("mnuFilePrint"))->setEnabled(true);
     findChild<QPushButton*>(QStringLiteral("CommandBerechnen"))
         ->setEnabled(static_cast<bool>(m_d.CommandBerechnen));
 }

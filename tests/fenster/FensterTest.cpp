@@ -8,8 +8,11 @@
 #include "dialogs/Seitenansicht.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFile>
+#include <QFocusEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -72,7 +75,7 @@ TEST(Editionen, EtikettUndVisitenkarte) {
     EXPECT_FALSE(Sichtbar(e.aktion("mnuFileSaveAs2")));
     EXPECT_TRUE(Sichtbar(e.aktion("Toolbar4_1")));
     EXPECT_EQ(e.kind<QLabel>("Label1_1")->text(), "Text 1");
-    EXPECT_EQ(e.kind<QLabel>("Label1_19")->text(), "Data 9");
+    EXPECT_EQ(e.kind<QLabel>("Label1_29")->text(), "Data 9");
     EXPECT_EQ(e.s.SchriftNummer, 1);
 
     Fenster v("ZP Visitenkarte");
@@ -82,8 +85,8 @@ TEST(Editionen, EtikettUndVisitenkarte) {
     EXPECT_FALSE(Sichtbar(v.aktion("Toolbar4_1")));
     EXPECT_TRUE(v.aktion("Toolbar4_2")->isChecked());
     EXPECT_EQ(v.kind<QStackedWidget>("Frame1")->currentWidget()->objectName(), "Frame1_4");
-    EXPECT_EQ(v.kind<QLabel>("Label1_26")->text(), "Name");
-    EXPECT_EQ(v.kind<QLabel>("Label1_23")->text(), "Telefon");
+    EXPECT_EQ(v.kind<QLabel>("Label1_21")->text(), "Name");
+    EXPECT_EQ(v.kind<QLabel>("Label1_24")->text(), "Telefon");
     EXPECT_TRUE(v.p.namen().contains("LadeDatensaetze"));
     EXPECT_EQ(v.s.SchriftNummer, 21);
 }
@@ -322,6 +325,31 @@ TEST(Befehle, TextfeldFuehrtTextUndSichtbarkeit) {
     EXPECT_EQ(f.s.Rahmenliste(22).Sichtbar, -1); // frames 21 to 30 are left alone
 }
 
+TEST(Befehle, FokusWaehltDenRahmenDesTextfelds) {
+    Fenster f("ZP Briefkopf");
+    auto* box = f.kind<QLineEdit>("Text1_5");
+    QFocusEvent rein(QEvent::FocusIn);
+    QApplication::sendEvent(box, &rein);
+    EXPECT_EQ(f.s.SchriftNummer, 5);
+    EXPECT_EQ(f.s.RahmenNummer, 5);
+    EXPECT_EQ(f.s.LadeSperre, 0);
+    // While a new frame waits to be drawn the focus selects nothing.
+    f.s.Auswahlmodus = 1;
+    QApplication::sendEvent(f.kind<QLineEdit>("Text1_7"), &rein);
+    EXPECT_EQ(f.s.SchriftNummer, 5);
+}
+
+TEST(Befehle, HilfeOhneDateiSagtEs) {
+    Fenster f("ZP Etikett");
+    f.s.Hilfedatei = f.s.Programmpfad + "deutsch.hlp"; // no deutsch.html beside it
+    const qsizetype vorher = f.fenster->meldungen.size();
+    f.aktion("mnuHelpContents")->trigger();
+    ASSERT_EQ(f.fenster->meldungen.size(), vorher + 1);
+    EXPECT_EQ(f.fenster->meldungen.last(),
+              "Hilfeinhalt konnte nicht angezeigt werden. Dieser Anwendung ist keine "
+              "Hilfedatei zugeordnet.");
+}
+
 TEST(Befehle, SchliessenSchreibtDieDateienDesKalenders) {
     Fenster f("ZP Kalender");
     f.p.aufrufe.clear();
@@ -375,5 +403,15 @@ TEST(Drucken, DialogZeigtSeitenUndSchreibtAbgleichSofort) {
     EXPECT_EQ(tasche.findChild<QLineEdit*>("TextDruckEnde")->text(), "1");
 }
 
+} // namespace
+} // namespace zp::test
+
+namespace zp::test {
+namespace {
+TEST(Symbol, DasFenstersymbolIstEingebaut) {
+    QFile symbol(":/zp/zp.svg");
+    ASSERT_TRUE(symbol.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(symbol.readAll().startsWith("<svg"));
+}
 } // namespace
 } // namespace zp::test
