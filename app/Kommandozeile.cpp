@@ -73,7 +73,7 @@ const Option* FindeOption(const QString& name) {
 
 bool Kommandozeile::HatAktionen() const {
     return std::any_of(aufrufe.begin(), aufrufe.end(),
-                       [](const Aufruf& a) { return a.option->art == OptionArt::Aktion; });
+                       [](const OptionAufruf& a) { return a.option->art == OptionArt::Aktion; });
 }
 
 std::optional<Kommandozeile> LeseKommandozeile(const QStringList& argumente, QString* fehler) {
@@ -146,7 +146,7 @@ void BatchOberflaeche::Meldung(const QString& text, const QString& titel, const 
 
 bool Batchlauf::Hat(const QString& name) const {
     return std::any_of(zeile.aufrufe.begin(), zeile.aufrufe.end(),
-                       [&](const Aufruf& a) { return a.option->name == name; });
+                       [&](const OptionAufruf& a) { return a.option->name == name; });
 }
 
 QString Batchlauf::Wert(const QString& name, const QString& vorgabe) const {
@@ -172,7 +172,7 @@ int FuehreStapellaufAus(const Kommandozeile& zeile) {
 int FuehreStapellaufAus(const Kommandozeile& zeile, AppState& s, BatchOberflaeche& ui) {
     Batchlauf lauf{s, ui, zeile};
     // Values are checked before anything is written, so a typing error costs nothing.
-    for (const Aufruf& a : zeile.aufrufe)
+    for (const OptionAufruf& a : zeile.aufrufe)
         if (a.option->art != OptionArt::Aktion && a.option->handler && !a.option->handler(lauf, a.argument))
             return 1;
 
@@ -184,9 +184,11 @@ int FuehreStapellaufAus(const Kommandozeile& zeile, AppState& s, BatchOberflaech
         return 1;
     }
     Main(s, ordner, ui);
-    if (!LadeStartzustand(s, ui)) return 1;
+    // Without its start document the program still runs on the built-in one, as the window
+    // does; the run then ends with status 1.
+    LadeStartzustand(s, ui);
 
-    for (const Aufruf& a : zeile.aufrufe) {
+    for (const OptionAufruf& a : zeile.aufrufe) {
         if (a.option->art != OptionArt::Aktion) continue;
         if (!a.option->handler(lauf, a.argument)) return 1;
     }

@@ -51,14 +51,14 @@ bool RegistriereOption(Option option);
 [[nodiscard]] const Option* FindeOption(const QString& name);
 
 // One option as the user gave it.
-struct Aufruf {
+struct OptionAufruf {
     const Option* option = nullptr;
     QString argument;
 };
 
 // The command line, read.
 struct Kommandozeile {
-    std::vector<Aufruf> aufrufe; // in the order given
+    std::vector<OptionAufruf> aufrufe; // in the order given
     bool hilfe = false;
     QString programmpfad; // --programmpfad, empty when not given
     QString edition;      // --edition, empty when not given

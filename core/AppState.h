@@ -8,13 +8,30 @@
 #include "model/Klassen.h"
 #include "model/SeiteEtikett.h"
 
+#include <QDate>
+#include <QSet>
 #include <QString>
 #include <cstdint>
+#include <memory>
 
 namespace zp {
 
+class Bildwerk; // render/Bildwerk.h
+
 // The side panel's texts that the document reads: `Text1(1)` ... `Text1(30)` and the calendar's
 // title and footer boxes. Held here so that the headless core composes what the window shows.
+// A month view of the calendar panel, as far as the day data depend on it: the current date, the
+// selected range (SelStart..SelEnd), the year range and the bold marks. The month shown is that
+// of `Value`.
+struct Monatsansicht {
+    QDate Value;
+    QDate SelStart;
+    QDate SelEnd;
+    QDate MinDate;
+    QDate MaxDate;
+    QSet<QDate> Fett; // days marked bold
+};
+
 struct Seitenleiste {
     Liste<QString> Text1{30};
     QString TextTitel;
@@ -23,6 +40,16 @@ struct Seitenleiste {
     QString TextFeiertag;
     QString Textbilddatei;
     QString TextBildbeschreibung;
+    // Calendar panel: the two month views (appointments, holidays), their colour boxes (white
+    // stands for "no colour of its own") and the month chosen in ComboMonat (list index).
+    Monatsansicht MonthView1;
+    Monatsansicht MonthView2;
+    Farbe PictureTextfarbe = 0xFFFFFF;
+    Farbe PictureHintergrundfarbe = 0xFFFFFF;
+    Farbe PictureFeiertagSchrift = 0xFFFFFF;
+    Farbe PictureFeiertagBack = 0xFFFFFF;
+    int ComboMonat = 0;
+    QString TextBild; // picture of the current address record (its column 21)
 };
 
 struct AppState {
@@ -110,6 +137,12 @@ struct AppState {
     double AbgleichY = 0;
     QString Druckername; // current printer's device name; empty: the system's default
     double Seriennummer = 0;
+    double ErstesEtikett = 1;  // first label position of a sheet to print, 1-based
+    float NurEineKarte = 0;    // the sheet loop stops after one piece
+    double DruckVon = 1;       // calendar pages to print
+    double DruckBis = 1;
+    double EtikettX = 0; // place of the label being printed on the sheet, tenths of a millimetre
+    double EtikettY = 0;
 
     // ---- Files and names ----------------------------------------------------------------------
     QString Programmpfad; // ends with "/"
@@ -140,6 +173,11 @@ struct AppState {
     Farbe FarbeTermin = 0;
     QString Kalendertitel = QStringLiteral("Testkalender");
     QString Kalenderunterschrift = QStringLiteral("Text unter dem Kalender");
+    double Spaltenabstand = 0;    // steps of the calendar walks, shared between walks and kept
+    double Zeilenabstand = 0;     // from one call to the next
+    float KalenderBearbeiten = 0; // template frames drawn once at their places, not walked
+    double NaechsteWocheTag = 0;  // where the day numbers of a week page ended
+    double NaechsteWocheMonat = 1;
 
     // ---- Dialog colours ----------------------------------------------------------------------
     Farbe Dialogfarbe1 = 0, Dialogfarbe2 = 0, Dialogfarbe3 = 0, Dialogfarbe4 = 0, Dialogfarbe5 = 0;
@@ -164,6 +202,10 @@ struct AppState {
 
     // ---- Side panel texts (see Seitenleiste) ----------------------------------------------
     Seitenleiste Panel;
+
+    // ---- Pictures -------------------------------------------------------------------------------
+    QString LetztesBild; // File of the last BildLaden; while printing, a repeated name loads once
+    std::shared_ptr<Bildwerk> Bilder; // imaging controls and picture cache; BildwerkVon makes it
 };
 
 } // namespace zp

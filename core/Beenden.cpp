@@ -1,6 +1,9 @@
 #include "Beenden.h"
 
 #include "AppState.h"
+#include "Start.h"
+#include "persist/Design.h"
+#include "persist/Datensaetze.h"
 #include "persist/Einstellungen.h"
 #include "persist/Katalogdateien.h"
 
@@ -8,8 +11,14 @@ namespace zp {
 
 bool BeendenDateienSchreiben(AppState& s, Oberflaeche& ui) {
     bool ok = true;
+    if (s.IstVisitenkarte != 0) ok = SpeichereDatensaetze(s, ui) && ok;
     ok = SaveSettings(s, ui) && ok;
-    if (s.IstKalender != 0) ok = SaveKalenderIni(s, ui) && ok;
+    if (s.IstKalender != 0) {
+        ok = SaveKalenderIni(s, ui) && ok;
+        // The calendar's design goes back to the working design of its type and variant.
+        s.AktuelleDatei = KalenderDesigndatei(s);
+        ok = SaveDesign(s, ui) && ok;
+    }
     if (s.IstEtikett != 0) ok = SaveKartenformate(s, ui) && ok;
     return ok;
 }

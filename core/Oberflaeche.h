@@ -25,7 +25,7 @@ public:
     virtual void Neuzeichnen() {}               // ZeichneSeite on the page view
     virtual void AuswahlAktualisieren() {}      // selection marker (UpdateSelection)
     virtual void ZoomAktualisieren() {}         // zoom and rulers
-    virtual void StatusDatei(const QString&) {} // status panel 1: "Aktuelle Datei: ..."
+    virtual void StatusDatei(const QString&) {} // status panel 1: "Aktuelle Datei: " and this path
     virtual void SeitentitelAktualisieren() {}  // page caption of the calendar
     virtual void DateilisteAktualisieren() {}   // recent files and window caption
     virtual void TypKnopfHervorheben(int typ, bool an) { (void)typ, (void)an; }
@@ -33,8 +33,18 @@ public:
     virtual void DatensatzAnzeigen() {}  // record view of the card editions
     // The main window's mouse pointer: 11 hourglass, 2 crosshair, 0 default (composition).
     virtual void Mauszeiger(int zeiger) { (void)zeiger; }
+    virtual void Statusmeldung(const QString&) {} // a note in the status bar, no answer needed
+    virtual void FokusFeldbox(int i) { (void)i; } // keyboard focus to the panel box Text1(i)
+
+    // The file dialog: returns the chosen path, or "" when the user cancelled. `filter` is in the
+    // form "Name (*.x)|*.x|...". The default answers with `vorgabeDatei`.
+    virtual QString DateiWaehlen(const QString& titel, const QString& filter, bool speichern) {
+        (void)titel, (void)filter, (void)speichern;
+        return vorgabeDatei;
+    }
 
     bool standardAntwort = true;
+    QString vorgabeDatei;
 };
 
 } // namespace zp

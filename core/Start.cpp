@@ -2,8 +2,11 @@
 
 #include "AppState.h"
 #include "Oberflaeche.h"
+#include "core/Datensatzbefehle.h"
 #include "core/runtime/Basic.h"
 #include "model/Objekte.h"
+#include "persist/Design.h"
+#include "persist/Datensaetze.h"
 #include "persist/Einstellungen.h"
 #include "persist/Katalogdateien.h"
 
@@ -171,6 +174,11 @@ void Main(AppState& s, const QString& programmpfad, Oberflaeche& ui) {
     ui.Mauszeiger(0);
 }
 
+QString KalenderDesigndatei(const AppState& s) {
+    return s.Programmpfad + QStringLiteral("kal") + basic::Str(s.Kalendertyp).trimmed() + s.Designvariante +
+           QStringLiteral(".zpk");
+}
+
 void SetzeEditionsflags(AppState& s) {
     s.IstKalender = s.IstVisitenkarte = s.IstBriefkopf = s.IstEtikett = s.IstCDHuelle = 0;
     const QString& name = s.Programmname;
@@ -212,12 +220,23 @@ bool LadeStartzustand(AppState& s, Oberflaeche& ui) {
         s.Datendatei = s.Programmpfad + QStringLiteral("neu.zpd");
         LoadKalenderIni(s, ui);
     }
-    if (s.IstVisitenkarte != 0) s.SchriftNummer = 21;
+    if (s.IstVisitenkarte != 0) {
+        LadeDatensaetze(s, ui);
+        s.SchriftNummer = 21;
+    }
     if (s.IstEtikett != 0) {
         LoadKartenformate(s, ui);
         s.SchriftNummer = 1;
     }
-    return true;
+    // The start document: the calendar type's working design, else the new document.
+    if (s.IstKalender != 0)
+        s.AktuelleDatei = KalenderDesigndatei(s);
+    else
+        s.Ladevorgabe = QStringLiteral("neu");
+    const bool geladen = LoadDesign(s, ui);
+    // Last: the record on view fills the panel boxes 21 to 30 and the texts that show them.
+    if (s.IstKalender == 0) ZeigeDatensatz(s, ui);
+    return geladen;
 }
 
 } // namespace zp

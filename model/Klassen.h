@@ -66,11 +66,11 @@ struct ClassLinie {
     int16_t ShadowDeep = 0;
     int16_t ShadowType = 0;
     int16_t ShadowWay = 0;
-    float Height = 0; // stored as single in the design file
+    int32_t Height = 0; // carried and stored (as a single in the design file)
     int16_t ColorCircle = 0;
-    float X = 0;
-    float Y = 0;
-    float widht = 0;
+    int32_t X = 0;
+    int32_t Y = 0;
+    int32_t widht = 0;
     int16_t Stärke = 1;
     Wahrheit Füllung = 0;
 };

@@ -1,9 +1,125 @@
-// Until the picture pipeline is built, the composition draws no pictures and no design band:
-// picture frames and picture backgrounds stay empty on every target.
+// The picture steps of the page composition: a picture or pattern behind a label, and picture
+// frames with the fit of record pictures.
 #include "Bildweg.h"
 
+#include "compose/canvas.h"
+#include "core/AppState.h"
+#include "render/BildLaden.h"
+#include "render/Bildwerk.h"
+
+#include <QFileInfo>
+
 namespace zp {
-void ZeichneBildHintergrund(AppState&, Canvas&) {}
-void ZeichneKartendesign(AppState&, Canvas&, double, double, double, const ClassEtikett&) {}
-void ZeichneBildRahmen(AppState&, Canvas&, int) {}
+
+namespace {
+
+bool DateiVorhanden(const QString& datei) {
+    return !datei.isEmpty() && QFileInfo(datei).isFile();
+}
+
+void ArbeitsbildLeeren(ClassBild& b) {
+    b.Effekt = QStringLiteral("0");
+    b.EffektMosaik = 0;
+    b.EffektPixel = 0;
+    b.EffektTrapez = 0;
+    b.Farbintensität = 0;
+    b.Farbverschiebung = 0;
+    b.Gray = 0;
+    b.Helligkeit = 0;
+    b.Invert = 0;
+    b.Kontrast = 0;
+    b.Rotate = 0;
+    b.Schärfe = 0;
+}
+
+void LeadRechteckLeeren(Lead& lead) {
+    lead.Left = lead.Top = lead.Width = lead.Height = 0;
+}
+
+} // namespace
+
+QString MusterDatei(const AppState& s, int muster) {
+    return s.Programmpfad + QStringLiteral("daten/must") + QString::number(muster) + QStringLiteral(".jpg");
+}
+
+QString HintergrundbildDatei(const AppState& s, const ClassEtikett& etikett) {
+    if (etikett.Farbüberlauf == 5) return MusterDatei(s, etikett.Muster);
+    if (etikett.Farbüberlauf == 4 && etikett.Muster >= 1) return etikett.Bilddatei;
+    return {};
+}
+
+void ZeichneBildHintergrund(AppState& s, Canvas& ziel) {
+    const ClassEtikett& e = s.AktuellesEtikett;
+    const QString datei = HintergrundbildDatei(s, e);
+    if (datei.isEmpty()) return;
+
+    ClassRahmen& r = s.AktuellerRahmen;
+    r.X = 0;
+    r.Y = 0;
+    r.Breite = e.Breite;
+    r.Höhe = e.Höhe;
+    r.Sichtbar = -1;
+    r.Objekttyp = QStringLiteral("Bild");
+
+    Lead& lead = BildwerkVon(s).Lead;
+    LeadRechteckLeeren(lead);
+    s.AktuellesBild.File = datei;
+    ArbeitsbildLeeren(s.AktuellesBild);
+    if (!DateiVorhanden(datei)) return;
+
+    BildLaden(s, s.AktuellesBild, lead);
+    if (ziel.Art() == CanvasArt::Drucker) {
+        // The printer gets the label at its own size; the print zoom plays no part here.
+        lead.Render(ziel, QRectF(0, 0, e.Breite * s.Geraetefaktor, e.Höhe * s.Geraetefaktor));
+    } else {
+        const double f = s.Zeichenfaktor * s.Geraetefaktor;
+        lead.Render(ziel, QRectF(r.X * f, r.Y * f, r.Breite * f, r.Höhe * f));
+    }
+}
+
+bool BildWirdEingepasst(const AppState& s, const ClassRahmen& rahmen) {
+    if (s.IstKalender != 0) return rahmen.Objektnummer == 1 && (s.Kalendertyp == 4 || s.Kalendertyp == 5);
+    return (s.IstEtikett != 0 || s.IstVisitenkarte != 0) && rahmen.bilddaten > 0;
+}
+
+QRectF EingepassterRahmen(double x, double y, double breite, double hoehe, int bildBreite, int bildHoehe) {
+    if (bildBreite <= 0 || bildHoehe <= 0 || breite <= 0 || hoehe <= 0) return {x, y, breite, hoehe};
+    // The ratios in single precision, as the frame fit always compared them.
+    const float r = static_cast<float>(bildBreite) / static_cast<float>(bildHoehe);
+    const float f = static_cast<float>(breite) / static_cast<float>(hoehe);
+    if (f >= r) {
+        const double neu = static_cast<double>(r) * hoehe;
+        return {x + (breite - neu) / 2, y, neu, hoehe};
+    }
+    const double neu = breite / static_cast<double>(r);
+    return {x, y + (hoehe - neu) / 2, breite, neu};
+}
+
+void ZeichneBildRahmen(AppState& s, Canvas& ziel, int n) {
+    if (!s.Rahmenliste.Gueltig(n)) return;
+    const ClassRahmen& rahmen = s.Rahmenliste(n);
+    const int k = static_cast<int>(rahmen.Objektnummer);
+    if (k < 1 || !s.Bildliste.Gueltig(k)) return;
+    ClassBild& bild = s.Bildliste(k);
+
+    if (bild.bilddaten == 1) {
+        const int satz = static_cast<int>(s.DatensatzNummer);
+        bild.File = s.Datensaetze.Gueltig(21, satz) ? s.Datensaetze(21, satz) : QString();
+    }
+    if (!DateiVorhanden(bild.File)) return;
+
+    Lead& lead = BildwerkVon(s).Lead;
+    LeadRechteckLeeren(lead);
+    BildLaden(s, bild, lead);
+    if (!lead.HatBild()) return;
+
+    // The fit works on a copy: the document's frame keeps its size.
+    QRectF r(rahmen.X, rahmen.Y, rahmen.Breite, rahmen.Höhe);
+    if (BildWirdEingepasst(s, rahmen))
+        r = EingepassterRahmen(rahmen.X, rahmen.Y, rahmen.Breite, rahmen.Höhe, lead.BitmapWidth(),
+                               lead.BitmapHeight());
+    const double f = s.Zeichenfaktor * s.Geraetefaktor;
+    lead.Render(ziel, QRectF(r.x() * f, r.y() * f, r.width() * f, r.height() * f));
+}
+
 } // namespace zp

@@ -1,0 +1,38 @@
+#pragma once
+// The options of the calendar ("Optionen"): which holidays the calculation writes, the four text
+// colours and the month and weekday names that stand on the page. The dialog edits a copy of the
+// switches and colours and hands it back on "Ok"; the names change at once as they are typed.
+
+#include "model/Klassen.h"
+
+#include <QString>
+#include <QStringList>
+#include <array>
+
+namespace zp {
+struct AppState;
+
+// Captions of the 25 holiday boxes Check1(0..24), box i for FeiertagWahl(i + 1).
+[[nodiscard]] const QStringList& Feiertagsschalter();
+// The fixed German lists of the name boxes; they only select which name is edited.
+[[nodiscard]] const QStringList& Monatsliste();
+[[nodiscard]] const QStringList& Wochentagsliste(); // Sonntag .. Samstag
+
+// Month and weekday names before the settings say otherwise: "Januar" ..., "So", "Mo", ... "So".
+void StandardnamenSetzen(AppState& s);
+
+struct Optionenwahl {
+    std::array<bool, 25> haken{}; // Check1(0..24)
+    Farbe samstag = 0, sonntag = 0, feiertag = 0, termin = 0;
+};
+// What the dialog shows on opening.
+[[nodiscard]] Optionenwahl OptionenAusZustand(const AppState& s);
+// "Ok": switches and colours taken over, Sunday's second slot follows the first. Nothing is
+// recalculated or redrawn here.
+void OptionenUebernehmen(AppState& s, const Optionenwahl& wahl);
+
+// TextMonat and TextWochentag changed, for the list entry `listenindex` (0-based).
+void MonatsnameGeaendert(AppState& s, int listenindex, const QString& text);
+void WochentagsnameGeaendert(AppState& s, int listenindex, const QString& text);
+
+} // namespace zp

@@ -1,0 +1,191 @@
+#include "Dokumentbefehle.h"
+
+#include "AppState.h"
+#include "Dokumentdienste.h"
+#include "Oberflaeche.h"
+#include "calendar/Kalendertypen.h"
+
+#include <QFileInfo>
+#include <QStringList>
+
+namespace zp {
+
+namespace {
+
+// A file kind whose reader or writer this build lacks is told, so that nothing looks saved or
+// loaded that isn't.
+bool Vorhanden(const Dienst& dienst, Oberflaeche& ui, const QString& datei) {
+    if (dienst) return true;
+    ui.Meldung(QStringLiteral("Diese Dateiart kann in dieser Programmversion nicht verarbeitet werden."),
+               QStringLiteral("Warnung!"), datei);
+    return false;
+}
+
+// The last three letters of a name: they decide what the calendar loads or saves.
+QString Endung(const QString& name) {
+    return name.right(3);
+}
+
+} // namespace
+
+QString Dateifilter(const AppState& s, Dateidialog art) {
+    if (s.IstBriefkopf != 0) return QStringLiteral("ZP Briefkopf (*.zpb)|*.zpb");
+    if (s.IstVisitenkarte != 0) return QStringLiteral("ZP Visitenkarte (*.zpv)|*.zpv");
+    if (s.IstEtikett != 0) {
+        if (art == Dateidialog::Oeffnen)
+            return QStringLiteral(
+                "ZP Etikett (*.zpe)|*.zpe|ZP Etikett 3 (*.eti)|*.eti|Textdatei (*.txt)|*.txt");
+        return QStringLiteral("ZP Etikett (*.zpe)|*.zpe");
+    }
+    if (s.IstKalender != 0) {
+        switch (art) {
+        case Dateidialog::Oeffnen:
+            return QStringLiteral("Termine und Daten (*.zpd)|*.zpd|Kalenderdesign (*.zpk)|*.zpk|"
+                                  "Version 5/6  (*.kal)|*.kal");
+        case Dateidialog::SpeichernUnter:
+            return QStringLiteral("Kalenderdesign (*.zpk)|*.zpk|Termine und Daten (*.zpd)|*.zpd");
+        case Dateidialog::SpeichernUnter2:
+            return QStringLiteral("Termine und Daten (*.zpd)|*.zpd|Kalenderdesign (*.zpk)|*.zpk");
+        }
+    }
+    return {};
+}
+
+QString QtDateifilter(const QString& filter) {
+    if (filter.isEmpty()) return {};
+    const QStringList teile = filter.split(QLatin1Char('|'));
+    QStringList qt;
+    for (qsizetype i = 0; i + 1 < teile.size(); i += 2) {
+        const QString& name = teile[i];
+        const QString muster = teile[i + 1];
+        // The names carry their pattern already ("ZP Etikett (*.zpe)"); Qt reads the part in brackets.
+        qt << (name.contains(QLatin1Char('(')) ? name.simplified()
+                                               : name + QStringLiteral(" (") + muster + ')');
+    }
+    return qt.join(QStringLiteral(";;"));
+}
+
+QString StatusDateitext(const QString& pfad) {
+    return QStringLiteral("Aktuelle Datei: ") + pfad;
+}
+
+bool BefehlNeu(AppState& s, Oberflaeche& ui, const Dokumentdienste& d) {
+    if (s.IstKalender != 0) {
+        // The calendar's New empties the day data; the design stays.
+        if (!DienstAusfuehren(d.KalenderNeu, s, ui)) return false;
+        ui.Neuzeichnen();
+        return true;
+    }
+    if (!ui.Frage(QStringLiteral("Sollen die aktuellen Daten gelöscht werden?"), QStringLiteral("Neu")))
+        return false;
+    s.Ladevorgabe = QStringLiteral("neu");
+    s.LadeSperre = 255;
+    DienstAusfuehren(d.LoadDesign, s, ui);
+    s.LadeSperre = 0;
+    ui.PanelAktualisieren();
+    ui.AuswahlAktualisieren();
+    ui.Neuzeichnen();
+    return true;
+}
+
+bool BefehlOeffnen(AppState& s, Oberflaeche& ui, const Dokumentdienste& d) {
+    const QString name =
+        ui.DateiWaehlen(QStringLiteral("Öffnen"), Dateifilter(s, Dateidialog::Oeffnen), false);
+    if (name.isEmpty()) return false;
+    s.LadeSperre = 255;
+    if (QFileInfo::exists(name)) {
+        if (s.IstKalender == 0) {
+            // Old label formats go the same way: the loader decides by the file.
+            if (!Vorhanden(d.LoadDesign, ui, name)) {
+                s.LadeSperre = 0;
+                return false;
+            }
+            s.AktuelleDatei = name;
+            DienstAusfuehren(d.LoadDesign, s, ui);
+            ui.StatusDatei(s.AktuelleDatei);
+        } else {
+            const QString endung = Endung(name).toLower();
+            if (endung == QLatin1String("zpk")) {
+                if (!Vorhanden(d.LoadDesign, ui, name)) {
+                    s.LadeSperre = 0;
+                    return false;
+                }
+                s.AktuelleDatei = name;
+                DienstAusfuehren(d.LoadDesign, s, ui);
+                ui.SeitentitelAktualisieren();
+            } else if (endung == QLatin1String("zpd")) {
+                s.Datendatei = name;
+                DienstAusfuehren(d.LadeDaten, s, ui);
+                ui.StatusDatei(s.Datendatei);
+            } else if (endung == QLatin1String("kal")) {
+                s.Datendatei = name;
+                DienstAusfuehren(d.ImportKal, s, ui);
+                ui.StatusDatei(s.Datendatei);
+            }
+        }
+        ui.PanelAktualisieren();
+        ui.AuswahlAktualisieren();
+    } else {
+        ui.Meldung(QStringLiteral("Die Datei wurde nicht gefunden."), QStringLiteral("Öffnen"), name);
+    }
+    s.LadeSperre = 0;
+    ui.Neuzeichnen();
+    return true;
+}
+
+bool BefehlSpeichern(AppState& s, Oberflaeche& ui, const Dokumentdienste& d) {
+    bool gut = DienstAusfuehren(d.SaveDesign, s, ui);
+    if (s.IstKalender != 0) gut = DienstAusfuehren(d.SpeichereDaten, s, ui) && gut;
+    return gut;
+}
+
+bool BefehlSpeichernUnter(AppState& s, Oberflaeche& ui, const Dokumentdienste& d, Dateidialog art) {
+    const QString name = ui.DateiWaehlen(QStringLiteral("speichern"), Dateifilter(s, art), true);
+    if (name.isEmpty()) return false;
+    // Exact comparison: a data ending typed in capitals saves a design under that name.
+    if (s.IstKalender != 0 && Endung(name) == QLatin1String("zpd")) {
+        if (!Vorhanden(d.SpeichereDaten, ui, name)) return false;
+        s.Datendatei = name;
+        const bool gut = DienstAusfuehren(d.SpeichereDaten, s, ui);
+        ui.StatusDatei(s.Datendatei);
+        return gut;
+    }
+    if (!Vorhanden(d.SaveDesign, ui, name)) return false;
+    s.AktuelleDatei = name;
+    const bool gut = DienstAusfuehren(d.SaveDesign, s, ui);
+    ui.StatusDatei(s.AktuelleDatei);
+    return gut;
+}
+
+void Beenden(AppState& s, Oberflaeche& ui, const Dokumentdienste& d) {
+    if (s.IstVisitenkarte != 0) DienstAusfuehren(d.SpeichereDatensaetze, s, ui);
+    DienstAusfuehren(d.SaveSettings, s, ui);
+    if (s.IstKalender != 0) {
+        DienstAusfuehren(d.SaveKalenderIni, s, ui);
+        // The day data go to auto.zpd, never over the file the user opened.
+        s.Datendatei = s.Programmpfad + QStringLiteral("auto.zpd");
+        DienstAusfuehren(d.SpeichereDaten, s, ui);
+        s.AktuelleDatei = Designdatei(s);
+        DienstAusfuehren(d.SaveDesign, s, ui);
+    }
+    if (s.IstEtikett != 0) DienstAusfuehren(d.SaveKartenformate, s, ui);
+}
+
+void GalerieLaden(AppState& s, Oberflaeche& ui, const Dokumentdienste& d, int zeile) {
+    if (s.IstVisitenkarte == 0 || zeile < 0) return;
+    const QString gemerkt = s.AktuelleDatei;
+    s.AktuelleDatei =
+        s.Programmpfad + QStringLiteral("daten/design") + QString::number(zeile + 1) + QStringLiteral(".zpv");
+    if (QFileInfo::exists(s.AktuelleDatei)) {
+        s.LadeSperre = 255;
+        DienstAusfuehren(d.LoadDesign, s, ui);
+        s.LadeSperre = 0;
+        ui.PanelAktualisieren();
+        ui.AuswahlAktualisieren();
+    }
+    ui.Neuzeichnen();
+    s.AktuelleDatei = gemerkt;
+    ui.StatusDatei(s.AktuelleDatei);
+}
+
+} // namespace zp

@@ -1,0 +1,41 @@
+#pragma once
+// The document commands of the main window: New, Open, Save, Save As (two filter orders), the
+// design gallery of the business cards and the end of the program. No command asks whether to
+// save: there is no modified state, and the end of the program writes everything by itself.
+
+#include <QString>
+
+namespace zp {
+struct AppState;
+class Oberflaeche;
+struct Dokumentdienste;
+
+enum class Dateidialog { Oeffnen, SpeichernUnter, SpeichernUnter2 };
+
+// The filter of the file dialog for the edition, as "Name (*.x)|*.x|..." pairs. The editions are
+// tested in the order Briefkopf, Visitenkarte, Etikett, Kalender; the CD cover gets none.
+[[nodiscard]] QString Dateifilter(const AppState& s, Dateidialog art);
+// The same in the form of Qt's file dialog: "Name (*.x);;Name (*.y)".
+[[nodiscard]] QString QtDateifilter(const QString& filter);
+
+// "Aktuelle Datei: " and the path, as the status bar shows it.
+[[nodiscard]] QString StatusDateitext(const QString& pfad);
+
+// mnuFileNew: asks, then loads the built-in new document, or in the calendar empties the day
+// data. Returns false when the user said No.
+bool BefehlNeu(AppState& s, Oberflaeche& ui, const Dokumentdienste& d);
+// mnuFileOpen: asks for a file through the window, then loads it by the edition's rules.
+// Returns false when nothing was chosen.
+bool BefehlOeffnen(AppState& s, Oberflaeche& ui, const Dokumentdienste& d);
+// mnuFileSave: the design, and in the calendar the day data. A failed write is told, never fatal.
+bool BefehlSpeichern(AppState& s, Oberflaeche& ui, const Dokumentdienste& d);
+// mnuFileSaveAs and mnuFileSaveAs2: they differ only in the order of the filter.
+bool BefehlSpeichernUnter(AppState& s, Oberflaeche& ui, const Dokumentdienste& d, Dateidialog art);
+// Close, Exit and the window's close button: writes records, settings and the edition's files.
+// The window then ends the program.
+void Beenden(AppState& s, Oberflaeche& ui, const Dokumentdienste& d);
+// A click on gallery row `zeile` (from 0): loads daten/design<zeile + 1>.zpv as a template and
+// keeps AktuelleDatei, so that the next Save doesn't overwrite the gallery file.
+void GalerieLaden(AppState& s, Oberflaeche& ui, const Dokumentdienste& d, int zeile);
+
+} // namespace zp

@@ -1,0 +1,235 @@
+#include "FrmDrucken.h"
+
+#include "core/AppState.h"
+#include "core/Editionen.h"
+#include "core/Oberflaeche.h"
+#include "core/Seitennavigation.h"
+#include "core/runtime/Basic.h"
+
+#include <QApplication>
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPageSetupDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+namespace zp {
+
+namespace {
+const char* const PdfDrucker = "PDF-Datei";
+}
+
+QLineEdit* FrmDrucken::Feld(const char* name, const QString& text) {
+    auto* e = new QLineEdit(text, this);
+    e->setObjectName(QString::fromLatin1(name));
+    return e;
+}
+
+FrmDrucken::FrmDrucken(AppState& state, Oberflaeche& ui, const Dokumentdienste& d, QWidget* parent)
+    : QDialog(parent), s(state), m_ui(ui), m_d(d) {
+    setObjectName(QStringLiteral("frmDrucken"));
+    setWindowTitle(QStringLiteral("Drucken"));
+    const Edition e = AktuelleEdition(s);
+    const bool etikett = e == Edition::Etikett;
+    auto* haupt = new QVBoxLayout(this);
+
+    // Printer.
+    auto* druckerZeile = new QHBoxLayout;
+    m_drucker = new QComboBox(this);
+    m_drucker->setObjectName(QStringLiteral("Combo1"));
+    m_drucker->addItem(QString::fromLatin1(PdfDrucker));
+    m_drucker->addItems(QPrinterInfo::availablePrinterNames());
+    const QString aktuell = s.Druckername.isEmpty() ? QPrinterInfo::defaultPrinterName() : s.Druckername;
+    const int index = m_drucker->findText(aktuell);
+    m_drucker->setCurrentIndex(index >= 0 ? index : 0);
+    auto* einstellen = new QPushButton(QStringLiteral("Standarddrucker"), this);
+    einstellen->setObjectName(QStringLiteral("CommandEinstellen"));
+    druckerZeile->addWidget(m_drucker, 1);
+    druckerZeile->addWidget(einstellen);
+    haupt->addLayout(druckerZeile);
+
+    auto* f = new QFormLayout;
+    m_kopien = Feld("Text1", QStringLiteral("1"));
+    f->addRow(QStringLiteral("Kopien"), m_kopien);
+    m_option[5] = new QRadioButton(
+        etikett ? QStringLiteral("Etikett drucken") : QStringLiteral("Eine Karte drucken"), this);
+    m_option[5]->setObjectName(QStringLiteral("Option5"));
+    m_option[6] = new QRadioButton(QStringLiteral("Seite drucken"), this);
+    m_option[6]->setObjectName(QStringLiteral("Option6"));
+    m_option[5]->setChecked(true);
+    auto* art = new QHBoxLayout;
+    art->addWidget(m_option[5]);
+    art->addWidget(m_option[6]);
+    f->addRow(art);
+    m_start = Feld("TextStart", QStringLiteral("1"));
+    f->addRow(QStringLiteral("Erste zu bedruckende Etikett"), m_start);
+    m_seriennummer = Feld("TextSeriennummer", QString::number(static_cast<long long>(s.Seriennummer)));
+    f->addRow(QStringLiteral("Erste Seriennummer"), m_seriennummer);
+    auto* seiten = new QHBoxLayout;
+    m_druckStart = Feld("TextDruckStart");
+    m_druckEnde = Feld("TextDruckEnde");
+    seiten->addWidget(m_druckStart);
+    seiten->addWidget(new QLabel(QStringLiteral("bis"), this));
+    seiten->addWidget(m_druckEnde);
+    f->addRow(QStringLiteral("Drucke Seite von"), seiten);
+    m_prozent = Feld("TextProzent");
+    f->addRow(QStringLiteral("Ausdruckgröße in %"), m_prozent);
+    haupt->addLayout(f);
+
+    // Addresses of the card editions.
+    auto* adressen = new QGroupBox(QStringLiteral("Adressen"), this);
+    auto* a = new QFormLayout(adressen);
+    const char* titel[] = {"", etikett ? "Aktuelles Etikett drucken" : "Aktive Adresse drucken",
+                           etikett ? "Etikettenbereich drucken" : "Adressenbereich drucken",
+                           "Nur eine Kategorie drucken",
+                           etikett ? "Alle Etiketten drucken" : "Alle Adressen drucken"};
+    auto* gruppe = new QButtonGroup(this);
+    for (int i = 1; i <= 4; ++i) {
+        m_option[i] = new QRadioButton(QString::fromUtf8(titel[i]), adressen);
+        m_option[i]->setObjectName(QStringLiteral("Option%1").arg(i));
+        gruppe->addButton(m_option[i], i);
+    }
+    m_option[1]->setChecked(true);
+    m_von = Feld("Text2", QStringLiteral("1"));
+    m_bis = Feld("Text3", QString::number(static_cast<long long>(s.DatensatzAnzahl)));
+    m_kategorie = Feld("Text4");
+    a->addRow(m_option[1]);
+    a->addRow(m_option[2]);
+    auto* bereich = new QHBoxLayout;
+    bereich->addWidget(new QLabel(QStringLiteral("von"), adressen));
+    bereich->addWidget(m_von);
+    bereich->addWidget(new QLabel(QStringLiteral("bis"), adressen));
+    bereich->addWidget(m_bis);
+    a->addRow(bereich);
+    a->addRow(m_option[3]);
+    a->addRow(QStringLiteral("Kategorie"), m_kategorie);
+    a->addRow(m_option[4]);
+    adressen->setVisible(e == Edition::Visitenkarte || etikett);
+    haupt->addWidget(adressen);
+
+    auto* justierung =
+        new QGroupBox(QStringLiteral("Druckerjustierung (Verschiebung des Ausdrucks in 1/10 mm)"), this);
+    auto* j = new QFormLayout(justierung);
+    m_abgleichX = Feld("TextAbgleichx");
+    m_abgleichY = Feld("TextAbgleichy");
+    j->addRow(QStringLiteral("Horizontaler Abgleich"), m_abgleichX);
+    j->addRow(QStringLiteral("Vertikaler Abgleich"), m_abgleichY);
+    haupt->addWidget(justierung);
+
+    m_hilfsmarken = new QGroupBox(QStringLiteral("Hilfsmarken"), this);
+    auto* h = new QVBoxLayout(m_hilfsmarken);
+    m_check2 = new QCheckBox(QStringLiteral("Schnittmarken drucken"), m_hilfsmarken);
+    m_check2->setObjectName(QStringLiteral("Check2"));
+    m_check1 = new QCheckBox(QStringLiteral("Schnittrahmen drucken"), m_hilfsmarken);
+    m_check1->setObjectName(QStringLiteral("Check1"));
+    h->addWidget(m_check2);
+    h->addWidget(m_check1);
+    haupt->addWidget(m_hilfsmarken);
+
+    auto* knoepfe = new QHBoxLayout;
+    knoepfe->addStretch();
+    m_drucken = new QPushButton(QStringLiteral("Drucken"), this);
+    m_drucken->setObjectName(QStringLiteral("CommandDrucken"));
+    m_drucken->setDefault(true);
+    m_drucken->setEnabled(static_cast<bool>(m_d.Drucken));
+    auto* abbruch = new QPushButton(QStringLiteral("Abbruch"), this);
+    abbruch->setObjectName(QStringLiteral("CommandAbbruch"));
+    knoepfe->addWidget(m_drucken);
+    knoepfe->addWidget(abbruch);
+    haupt->addLayout(knoepfe);
+
+    // Load: marks, pages and what the edition shows.
+    m_check2->setChecked(s.AktuellesEtikett.Schnittmarken != 0);
+    m_check1->setChecked(s.AktuellesEtikett.Schnittrahmen != 0);
+    if (e == Edition::Kalender) Seitenbereich(s);
+    m_druckEnde->setText(QString::number(static_cast<long long>(s.Seitenanzahl)));
+    m_druckStart->setText(QStringLiteral("1"));
+    m_prozent->setText(QStringLiteral("100"));
+    const int typ = static_cast<int>(s.Kalendertyp);
+    const bool kalender = e == Edition::Kalender;
+    m_druckStart->setEnabled(kalender && typ != 2 && typ != 3);
+    m_druckEnde->setEnabled(kalender && typ != 2 && typ != 3);
+    m_prozent->setEnabled(kalender);
+    m_hilfsmarken->setVisible(e == Edition::Visitenkarte || etikett || (kalender && typ == 3));
+
+    // Changes are written at once.
+    connect(m_abgleichX, &QLineEdit::textEdited, this,
+            [this](const QString& t) { s.AbgleichX = basic::Val(t); });
+    connect(m_abgleichY, &QLineEdit::textEdited, this,
+            [this](const QString& t) { s.AbgleichY = basic::Val(t); });
+    connect(m_check1, &QCheckBox::toggled, this,
+            [this](bool an) { s.AktuellesEtikett.Schnittrahmen = basic::AlsWahrheit(an); });
+    connect(m_check2, &QCheckBox::toggled, this,
+            [this](bool an) { s.AktuellesEtikett.Schnittmarken = basic::AlsWahrheit(an); });
+    connect(m_drucker, &QComboBox::currentTextChanged, this,
+            [this](const QString& name) { s.Druckername = name; });
+    connect(einstellen, &QPushButton::clicked, this, [this] {
+        QPrinter drucker;
+        if (m_drucker->currentText() != QLatin1String(PdfDrucker))
+            drucker.setPrinterName(m_drucker->currentText());
+        QPageSetupDialog einrichten(&drucker, this);
+        einrichten.exec();
+    });
+    connect(m_drucken, &QPushButton::clicked, this, &FrmDrucken::CommandDrucken);
+    connect(abbruch, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+void FrmDrucken::showEvent(QShowEvent* e) {
+    QDialog::showEvent(e);
+    m_abgleichX->setText(basic::DoubleText(s.AbgleichX));
+    m_abgleichY->setText(basic::DoubleText(s.AbgleichY));
+}
+
+Druckdialogwerte FrmDrucken::Werte() const {
+    Druckdialogwerte w;
+    w.Drucker = m_drucker->currentText();
+    w.Kopien = m_kopien->text();
+    w.TextDruckStart = m_druckStart->text();
+    w.TextDruckEnde = m_druckEnde->text();
+    w.TextProzent = m_prozent->text();
+    w.TextStart = m_start->text();
+    w.TextSeriennummer = m_seriennummer->text();
+    for (int i = 1; i <= 4; ++i)
+        if (m_option[i]->isChecked()) w.Adressen = i;
+    w.Von = m_von->text();
+    w.Bis = m_bis->text();
+    w.Kategorie = m_kategorie->text();
+    w.EineKarte = m_option[5]->isChecked();
+    return w;
+}
+
+void FrmDrucken::CommandDrucken() {
+    if (!m_d.Drucken) return;
+    QProgressDialog fortschritt(QStringLiteral("Drucken..."), QStringLiteral("Abbrechen"), 0, 0, this);
+    fortschritt.setWindowTitle(QStringLiteral("Drucken"));
+    fortschritt.setWindowModality(Qt::WindowModal);
+    fortschritt.setMinimumDuration(300);
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    try {
+        m_d.Drucken(s, m_ui, Werte(), [&fortschritt](int fertig, int gesamt) {
+            fortschritt.setMaximum(gesamt);
+            fortschritt.setValue(fertig);
+            return !fortschritt.wasCanceled();
+        });
+    } catch (const std::exception& e) {
+        QApplication::restoreOverrideCursor();
+        m_ui.Meldung(QStringLiteral("Der Druck konnte nicht ausgeführt werden."), QStringLiteral("Warnung!"),
+                     QString::fromUtf8(e.what()));
+        hide();
+        return;
+    }
+    QApplication::restoreOverrideCursor();
+    hide();
+}
+
+} // namespace zp

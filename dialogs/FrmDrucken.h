@@ -1,0 +1,48 @@
+#pragma once
+// frmDrucken: printer, copies, pages or addresses, print size, printer adjustment and cut marks.
+// "Drucken" hands the boxes to the print run and shows its progress.
+
+#include "core/Dokumentdienste.h"
+
+#include <QDialog>
+
+class QCheckBox;
+class QComboBox;
+class QGroupBox;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+
+namespace zp {
+struct AppState;
+class Oberflaeche;
+
+class FrmDrucken : public QDialog {
+    Q_OBJECT
+public:
+    FrmDrucken(AppState& s, Oberflaeche& ui, const Dokumentdienste& d, QWidget* parent = nullptr);
+
+    // The boxes as the print run receives them.
+    [[nodiscard]] Druckdialogwerte Werte() const;
+    // CommandDrucken: runs the print with the hourglass and a progress dialog, then hides.
+    void CommandDrucken();
+
+protected:
+    void showEvent(QShowEvent* e) override;
+
+private:
+    QLineEdit* Feld(const char* name, const QString& text = {});
+
+    AppState& s;
+    Oberflaeche& m_ui;
+    const Dokumentdienste& m_d;
+    QComboBox* m_drucker;
+    QLineEdit *m_kopien, *m_start, *m_seriennummer, *m_druckStart, *m_druckEnde, *m_prozent;
+    QLineEdit *m_von, *m_bis, *m_kategorie, *m_abgleichX, *m_abgleichY;
+    QRadioButton* m_option[7] = {};
+    QCheckBox *m_check1, *m_check2;
+    QGroupBox* m_hilfsmarken;
+    QPushButton* m_drucken;
+};
+
+} // namespace zp

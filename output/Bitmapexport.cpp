@@ -1,0 +1,68 @@
+#include "Bitmapexport.h"
+
+#include "compose/ImageCanvas.h"
+#include "compose/ZeichneSeite.h"
+#include "core/AppState.h"
+#include "render/Bildwerk.h"
+
+#include <cmath>
+
+namespace zp {
+
+QSizeF Lead2Groesse(const AppState& s) {
+    return {s.AktuellesEtikett.Breite * s.Geraetefaktor * s.ZoomExport,
+            s.AktuellesEtikett.Höhe * s.Geraetefaktor * s.ZoomExport};
+}
+
+QImage ExportBild(AppState& s, Zeichenziele& ziele, const Komposition& zeichne, QString* fehler) {
+    const QSizeF twips = Lead2Groesse(s);
+    const double breite = std::ceil(twips.width() / ExportTwipsProPixel);
+    const double hoehe = std::ceil(twips.height() / ExportTwipsProPixel);
+    if (!(breite >= 1 && hoehe >= 1)) {
+        if (fehler)
+            *fehler = QStringLiteral("Das Bild wäre leer: Etikettgröße und Exportzoom (ZoomExport) müssen "
+                                     "größer als 0 sein.");
+        return {};
+    }
+    if (breite * hoehe > static_cast<double>(Lead::MaxBildpunkte)) {
+        if (fehler)
+            *fehler = QStringLiteral("Das Bild wäre mit %1 x %2 Bildpunkten zu groß. Bitte einen kleineren "
+                                     "Exportzoom wählen.")
+                          .arg(breite, 0, 'f', 0)
+                          .arg(hoehe, 0, 'f', 0);
+        return {};
+    }
+
+    ImageCanvas lead2(QSize(static_cast<int>(breite), static_cast<int>(hoehe)), CanvasArt::Export,
+                      ExportTwipsProPixel, ExportTwipsProPixel);
+    // The device that draws sets the pixel size of the composition's device operations.
+    struct Aufraeumen {
+        AppState& s;
+        Zeichenziele& z;
+        Canvas* lead2;
+        double tppX, tppY;
+        ~Aufraeumen() {
+            s.ExportAktiv = 0;
+            z.Lead2 = lead2;
+            s.TwipsProPixelX = tppX;
+            s.TwipsProPixelY = tppY;
+        }
+    } aufraeumen{s, ziele, ziele.Lead2, s.TwipsProPixelX, s.TwipsProPixelY};
+    ziele.Lead2 = &lead2;
+    s.TwipsProPixelX = ExportTwipsProPixel;
+    s.TwipsProPixelY = ExportTwipsProPixel;
+    s.ExportAktiv = -1;
+    zeichne(s, ziele);
+    return lead2.Bild();
+}
+
+bool BildSpeichern(AppState& s, Zeichenziele& ziele, const QString& datei, const Komposition& zeichne,
+                   QString* fehler) {
+    const QImage bild = ExportBild(s, ziele, zeichne, fehler);
+    if (bild.isNull()) return false;
+    Lead& lead2 = BildwerkVon(s).Lead2;
+    lead2.SetzeBitmap(bild);
+    return lead2.SaveBmp(datei, fehler);
+}
+
+} // namespace zp

@@ -1,0 +1,110 @@
+#include "output/WordExport.h"
+
+#include "core/AppState.h"
+#include "core/Oberflaeche.h"
+
+#include <QBuffer>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QStandardPaths>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextDocumentWriter>
+#include <QTextImageFormat>
+#include <QUrl>
+
+namespace zp {
+
+namespace {
+
+const QString kTitel = QStringLiteral("Word");
+const QString kBildname = QStringLiteral("zp-seite.png");
+constexpr double kTextspalteMm = 160;
+constexpr double kPixelJeMm = 96.0 / 25.4; // the document's lengths are pixels at 96 dpi
+
+QString NeuerDokumentpfad() {
+    QString ordner = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    if (ordner.isEmpty() || !QDir().mkpath(ordner)) ordner = QDir::tempPath();
+    const QDir dir(ordner);
+    QString pfad = dir.filePath(QStringLiteral("ZP-Seite.odt"));
+    for (int n = 2; QFileInfo::exists(pfad); ++n)
+        pfad = dir.filePath(QStringLiteral("ZP-Seite %1.odt").arg(n));
+    return pfad;
+}
+
+} // namespace
+
+std::unique_ptr<QTextDocument> Worddokument(const QImage& seite, double breiteMm) {
+    auto dokument = std::make_unique<QTextDocument>();
+    dokument->addResource(QTextDocument::ImageResource, QUrl(kBildname), seite);
+    QTextCursor cursor(dokument.get());
+    if (!seite.isNull()) {
+        QTextImageFormat bild;
+        bild.setName(kBildname);
+        double mm = breiteMm > 0 ? breiteMm : seite.width() / kPixelJeMm;
+        if (mm > kTextspalteMm) mm = kTextspalteMm;
+        bild.setWidth(mm * kPixelJeMm);
+        bild.setHeight(mm * kPixelJeMm * seite.height() / std::max(1, seite.width()));
+        cursor.insertImage(bild);
+    }
+    for (int i = 0; i < kLeerzeilenUnterDemBild + 1; ++i)
+        cursor.insertBlock();
+    cursor.insertText(QStringLiteral("Texteingabe"));
+    return dokument;
+}
+
+bool SchreibeWorddokument(const QImage& seite, double breiteMm, QIODevice& ziel) {
+    const auto dokument = Worddokument(seite, breiteMm);
+    QTextDocumentWriter schreiber(&ziel, "odf");
+    return schreiber.write(dokument.get());
+}
+
+QString mnuWord(AppState& s, Oberflaeche& o, const Exportbild& exportbild, const QString& ziel,
+                bool oeffnen) {
+    s.ExportAktiv = -1;
+    QImage seite;
+    try {
+        seite = exportbild(s);
+    } catch (...) {
+        s.ExportAktiv = 0;
+        o.Meldung(QStringLiteral("Die Seite konnte nicht als Bild gezeichnet werden."), kTitel);
+        return {};
+    }
+    s.ExportAktiv = 0;
+
+    // The picture goes through a file in the temporary folder, as the word processor gets it.
+    const QString bmp = QDir(QDir::tempPath()).filePath(QStringLiteral("test.bmp"));
+    if (seite.isNull() || !seite.save(bmp, "BMP")) {
+        o.Meldung(QStringLiteral("Das Bild der Seite konnte nicht im temporären Ordner gespeichert werden."),
+                  kTitel, bmp);
+        return {};
+    }
+    const QImage bild(bmp);
+    QFile::remove(bmp);
+
+    const double breiteMm =
+        (s.AktuellesEtikett.Breite > 0 ? s.AktuellesEtikett.Breite : s.AktuelleSeite.Breite) / 10.0;
+    const QString pfad = ziel.isEmpty() ? NeuerDokumentpfad() : ziel;
+    // The zip writer closes its device, which a QSaveFile refuses: the document is built in memory.
+    QBuffer puffer;
+    puffer.open(QIODevice::WriteOnly);
+    const bool gebaut = SchreibeWorddokument(bild, breiteMm, puffer);
+    QSaveFile datei(pfad);
+    if (!gebaut || !datei.open(QIODevice::WriteOnly) || datei.write(puffer.data()) != puffer.data().size() ||
+        !datei.commit()) {
+        o.Meldung(QStringLiteral("Das Dokument konnte nicht geschrieben werden."), kTitel, pfad);
+        return {};
+    }
+    if (oeffnen && !QDesktopServices::openUrl(QUrl::fromLocalFile(pfad))) {
+        o.Meldung(QStringLiteral("Es wurde kein Programm gefunden, das das Dokument öffnet. Es wurde unter "
+                                 "%1 gespeichert.")
+                      .arg(QDir::toNativeSeparators(pfad)),
+                  kTitel);
+    }
+    return pfad;
+}
+
+} // namespace zp

@@ -1,0 +1,12 @@
+#include "Bildwerk.h"
+
+#include "core/AppState.h"
+
+namespace zp {
+
+Bildwerk& BildwerkVon(AppState& s) {
+    if (!s.Bilder) s.Bilder = std::make_shared<Bildwerk>();
+    return *s.Bilder;
+}
+
+} // namespace zp

@@ -1,0 +1,77 @@
+#pragma once
+// Pictures made in the tests and small measures of them.
+
+#include <QColor>
+#include <QDir>
+#include <QImage>
+#include <QString>
+#include <cmath>
+
+namespace zp::test {
+
+// A colourful picture with soft gradients and a few hard edges.
+inline QImage Testbild(int w = 64, int h = 48) {
+    QImage q(w, h, QImage::Format_ARGB32);
+    for (int y = 0; y < h; ++y)
+        for (int x = 0; x < w; ++x) {
+            const int r = 40 + 160 * x / w;
+            const int g = 60 + 120 * y / h;
+            const int b = ((x / 8 + y / 8) % 2) ? 180 : 70;
+            q.setPixel(x, y, qRgb(r, g, b));
+        }
+    return q;
+}
+
+inline QImage Einfarbig(QRgb farbe, int w = 32, int h = 24) {
+    QImage q(w, h, QImage::Format_ARGB32);
+    q.fill(farbe);
+    return q;
+}
+
+inline QString Speichere(const QImage& bild, const QDir& ordner, const QString& name) {
+    const QString pfad = ordner.filePath(name);
+    bild.save(pfad);
+    return pfad;
+}
+
+inline double MittlereHelligkeit(const QImage& q) {
+    double summe = 0;
+    for (int y = 0; y < q.height(); ++y)
+        for (int x = 0; x < q.width(); ++x)
+            summe += qGray(q.pixel(x, y));
+    return summe / (q.width() * q.height());
+}
+
+inline double Streuung(const QImage& q) {
+    const double m = MittlereHelligkeit(q);
+    double summe = 0;
+    for (int y = 0; y < q.height(); ++y)
+        for (int x = 0; x < q.width(); ++x) {
+            const double d = qGray(q.pixel(x, y)) - m;
+            summe += d * d;
+        }
+    return std::sqrt(summe / (q.width() * q.height()));
+}
+
+inline double MittlereSaettigung(const QImage& q) {
+    double summe = 0;
+    for (int y = 0; y < q.height(); ++y)
+        for (int x = 0; x < q.width(); ++x)
+            summe += QColor(q.pixel(x, y)).hslSaturation();
+    return summe / (q.width() * q.height());
+}
+
+// Sum of absolute differences between neighbours: grows with sharpness.
+inline double Kantenenergie(const QImage& q) {
+    double summe = 0;
+    for (int y = 0; y < q.height(); ++y)
+        for (int x = 1; x < q.width(); ++x)
+            summe += std::abs(qGray(q.pixel(x, y)) - qGray(q.pixel(x - 1, y)));
+    return summe;
+}
+
+inline bool IstWeiss(QRgb p) {
+    return qRed(p) > 245 && qGreen(p) > 245 && qBlue(p) > 245;
+}
+
+} // namespace zp::test

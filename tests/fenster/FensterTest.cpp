@@ -1,0 +1,379 @@
+// The main window on the offscreen platform: what each edition shows, the load handler's fills,
+// and commands run through the window's own controls.
+#include "Attrappen.h"
+
+#include "core/Editionen.h"
+#include "dialogs/FrmDrucken.h"
+#include "dialogs/Monatskalender.h"
+#include "dialogs/Seitenansicht.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QStackedWidget>
+#include <QTemporaryDir>
+#include <QToolBar>
+#include <QToolButton>
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace zp::test {
+namespace {
+
+struct Fenster {
+    explicit Fenster(const QString& programmname, bool mitDiensten = true) {
+        Grundzustand(s, programmname, ordner.path());
+        fenster = std::make_unique<TestFenster>(s, mitDiensten ? AlleDienste(p) : Dokumentdienste{});
+        fenster->Laden();
+        fenster->show();
+    }
+    template <typename T> T* kind(const QString& name) { return fenster->findChild<T*>(name); }
+    QAction* aktion(const char* name) { return fenster->Aktion(QString::fromUtf8(name)); }
+    QTemporaryDir ordner;
+    AppState s;
+    Protokoll p;
+    std::unique_ptr<TestFenster> fenster;
+};
+
+bool Sichtbar(QAction* a) {
+    return a && a->isVisible();
+}
+
+TEST(Editionen, KalenderZeigtSeineEintraegeUndVerbirgtDieDerKarten) {
+    Fenster f("ZP Kalender");
+    for (const char* n :
+         {"mnuBrief", "mnuWord", "mnuViewSeitenbreite", "mnuHilfsbereiche", "mnudatumeinfuegen", "mnuzeit",
+          "mnuseriennummer", "mnuDesign", "mnuKartengrösse", "mnuBildSpeichern", "mnuimport"})
+        EXPECT_FALSE(Sichtbar(f.aktion(n))) << n;
+    for (const char* n :
+         {"mnuFeiertage", "mnukalender", "mnuVerankernAlle", "mnuVerankernKeine", "mnuFileSaveAs2"})
+        EXPECT_TRUE(Sichtbar(f.aktion(n))) << n;
+    EXPECT_EQ(f.aktion("mnuFileSaveAs")->text(), "Design speichern unter...");
+    EXPECT_EQ(f.aktion("mnuFileSave")->text(), "Daten speichern");
+    EXPECT_FALSE(f.kind<QToolBar>("Toolbar4")->isVisible());
+    EXPECT_TRUE(f.kind<QToolBar>("Toolbar5")->isVisible());
+    // Frame1(8) is in front; button 4 of Toolbar5 only for the month types.
+    EXPECT_EQ(f.kind<QStackedWidget>("Frame1")->currentWidget()->objectName(), "Frame1_8");
+    EXPECT_FALSE(Sichtbar(f.aktion("Toolbar5_4")));
+}
+
+TEST(Editionen, EtikettUndVisitenkarte) {
+    Fenster e("ZP Etikett");
+    EXPECT_EQ(e.aktion("mnuDesign")->text(), "Etikettendesign");
+    EXPECT_EQ(e.aktion("mnuKartengrösse")->text(), "Etikettengröße");
+    EXPECT_TRUE(Sichtbar(e.aktion("mnuimport")));
+    EXPECT_TRUE(Sichtbar(e.aktion("mnuseriennummer")));
+    EXPECT_FALSE(Sichtbar(e.aktion("mnuFileSaveAs2")));
+    EXPECT_TRUE(Sichtbar(e.aktion("Toolbar4_1")));
+    EXPECT_EQ(e.kind<QLabel>("Label1_1")->text(), "Text 1");
+    EXPECT_EQ(e.kind<QLabel>("Label1_19")->text(), "Data 9");
+    EXPECT_EQ(e.s.SchriftNummer, 1);
+
+    Fenster v("ZP Visitenkarte");
+    EXPECT_FALSE(Sichtbar(v.aktion("mnuseriennummer")));
+    EXPECT_FALSE(Sichtbar(v.aktion("mnuimport")));
+    EXPECT_EQ(v.aktion("mnuDesign")->text(), "Kartendesign");
+    EXPECT_FALSE(Sichtbar(v.aktion("Toolbar4_1")));
+    EXPECT_TRUE(v.aktion("Toolbar4_2")->isChecked());
+    EXPECT_EQ(v.kind<QStackedWidget>("Frame1")->currentWidget()->objectName(), "Frame1_4");
+    EXPECT_EQ(v.kind<QLabel>("Label1_26")->text(), "Name");
+    EXPECT_EQ(v.kind<QLabel>("Label1_23")->text(), "Telefon");
+    EXPECT_TRUE(v.p.namen().contains("LadeDatensaetze"));
+    EXPECT_EQ(v.s.SchriftNummer, 21);
+}
+
+TEST(Editionen, BriefkopfUndCdHuelleBehaltenDenGrundaufbau) {
+    for (const char* name : {"ZP Briefkopf", "ZP CD-Hülle"}) {
+        Fenster f(QString::fromUtf8(name));
+        for (const char* n :
+             {"mnuBrief", "mnuWord", "mnuViewSeitenbreite", "mnuHilfsbereiche", "mnuseriennummer"})
+            EXPECT_TRUE(Sichtbar(f.aktion(n))) << name << n;
+        for (const char* n : {"mnuFeiertage", "mnukalender", "mnuimport", "mnuFileSaveAs2"})
+            EXPECT_FALSE(Sichtbar(f.aktion(n))) << name << n;
+        EXPECT_EQ(f.aktion("mnuFileSave")->text(), "&Speichern");
+        EXPECT_FALSE(f.kind<QToolBar>("Toolbar5")->isVisible()) << name;
+    }
+    // The CD cover's file dialogs carry no filter.
+    Fenster cd("ZP CD-Hülle");
+    cd.fenster->datei = "/tmp/cover";
+    cd.aktion("mnuFileSaveAs")->trigger();
+    EXPECT_TRUE(cd.fenster->filter_.isEmpty());
+    EXPECT_EQ(cd.p.namen().last(), "SaveDesign");
+}
+
+TEST(Laden, FuelltListenTitelUndStartdokument) {
+    Fenster f("ZP Kalender");
+    f.s.Kalenderjahr = 2002;
+    EXPECT_EQ(f.fenster->windowTitle(), "ZP Kalender - Version 8.02");
+    auto* jahr = f.kind<QComboBox>("ComboJahr");
+    EXPECT_EQ(jahr->count(), 21);
+    EXPECT_EQ(jahr->itemText(0), "1990");
+    EXPECT_EQ(jahr->itemText(20), "2010");
+    EXPECT_EQ(jahr->currentText(), "2002");
+    EXPECT_EQ(f.kind<QComboBox>("ComboVariante")->itemText(1), "Variante 2");
+    EXPECT_EQ(f.kind<QComboBox>("ComboMonat")->itemText(2), "März");
+    auto* groessen = f.kind<QComboBox>("Combo3");
+    EXPECT_EQ(groessen->count(), 33);
+    EXPECT_EQ(groessen->itemText(32), "72");
+    auto* galerie = f.kind<QListWidget>("List1");
+    ASSERT_EQ(galerie->count(), 19);
+    EXPECT_EQ(galerie->item(15)->text(), "Gelber Kreis im blauen Rahmen");
+    EXPECT_EQ(f.aktion("Toolbar1_Eigenschaft")->text(), "Schriftart");
+    // kalender.ini, then the working design of type 1.
+    EXPECT_EQ(f.s.Datendatei, f.s.Programmpfad + "neu.zpd");
+    EXPECT_EQ(f.kind<QLabel>("StatusBar_1")->text(), "Aktuelle Datei: " + f.s.Programmpfad + "neu.zpd");
+    // The first paint ended the start-up lock; the page was fitted to the view's width.
+    EXPECT_EQ(f.s.LadeSperre, 0);
+    EXPECT_GT(f.s.Zoomfaktor, 1);
+    EXPECT_LT(f.s.Zoomfaktor, 150);
+    EXPECT_FALSE(f.kind<QWidget>("PictureSeite")->size().isEmpty());
+}
+
+TEST(Laden, EinJahrAusserhalbDerListeBleibtGueltig) {
+    AppState s;
+    QTemporaryDir ordner;
+    Grundzustand(s, "ZP Kalender", ordner.path());
+    s.Kalenderjahr = 2026;
+    TestFenster f(s, {});
+    f.Laden();
+    EXPECT_EQ(f.findChild<QComboBox*>("ComboJahr")->currentText(), "2026");
+    EXPECT_EQ(f.findChild<Monatskalender*>("MonthView1")->maximumDate(), QDate(2026, 12, 31));
+    EXPECT_EQ(s.Kalenderjahr, 2026);
+}
+
+TEST(Laden, OhneDiensteBleibenDateibefehleAus) {
+    Fenster f("ZP Kalender", false);
+    for (const char* n : {"mnuFileOpen", "mnuFileSave", "mnuFileSaveAs", "mnukalender", "mnuFilePageSetup"})
+        EXPECT_FALSE(f.aktion(n)->isEnabled()) << n;
+    EXPECT_FALSE(f.kind<QPushButton>("CommandTyp_2")->isEnabled());
+    EXPECT_FALSE(f.kind<QPushButton>("CommandBerechnen")->isEnabled());
+    EXPECT_FALSE(f.aktion("mnuFileNew")->isEnabled());
+    // What needs no other area works.
+    EXPECT_TRUE(f.aktion("mnuViewProzent200")->isEnabled());
+}
+
+TEST(Befehle, NeuMitNeinUndJa) {
+    Fenster f("ZP Kalender");
+    const QString status = f.kind<QLabel>("StatusBar_1")->text();
+    f.s.Termine(1, 1) = "Neujahrsempfang";
+    f.s.Datendatei = "/home/ich/2004.zpd";
+    f.fenster->antwort = false;
+    f.aktion("mnuFileNew")->trigger();
+    EXPECT_EQ(f.s.Termine(1, 1), "Neujahrsempfang");
+    EXPECT_EQ(f.kind<QLabel>("StatusBar_1")->text(), status);
+    f.fenster->antwort = true;
+    f.aktion("mnuFileNew")->trigger();
+    EXPECT_TRUE(f.s.Termine(1, 1).isEmpty());
+    EXPECT_EQ(f.fenster->fragen.size(), 2);
+}
+
+TEST(Befehle, SeitenBlaettern) {
+    Fenster f("ZP Kalender");
+    f.s.Kalendertyp = 4;
+    f.s.Seitennummer = 1;
+    f.fenster->SeitentitelAktualisieren();
+    f.s.Seitenanzahl = 12;
+    f.fenster->SeitentitelAktualisieren();
+    auto* spinner = f.kind<QSpinBox>("UpDownSeite");
+    auto* text = f.kind<QLineEdit>("TextSeite");
+    spinner->setValue(5);
+    EXPECT_EQ(f.s.Seitennummer, 5);
+    EXPECT_EQ(text->text(), "5");
+    text->setText("");
+    text->insert("13");
+    emit text->textEdited(text->text());
+    EXPECT_EQ(text->text(), "1");
+    EXPECT_EQ(f.s.Seitennummer, 1);
+    text->setText("-3");
+    emit text->textEdited(text->text());
+    EXPECT_EQ(text->text(), "1");
+    text->setText("12");
+    emit text->textEdited(text->text());
+    EXPECT_EQ(f.s.Seitennummer, 12);
+    EXPECT_EQ(spinner->value(), 12);
+}
+
+TEST(Befehle, ZoomMenuesUndKnoepfe) {
+    Fenster f("ZP Briefkopf");
+    f.aktion("mnuViewProzent100")->trigger();
+    EXPECT_EQ(f.s.Zoomfaktor, 100);
+    const int breite100 = f.kind<QWidget>("PictureSeite")->width();
+    f.aktion("Commandzoom_1")->trigger();
+    EXPECT_EQ(f.s.Zoomfaktor, 150);
+    EXPECT_NEAR(f.kind<QWidget>("PictureSeite")->width(), breite100 * 1.5, 1);
+    f.s.Zoomfaktor = 120;
+    f.aktion("Commandzoom_0")->trigger();
+    EXPECT_EQ(f.s.Zoomfaktor, 100);
+    f.aktion("mnuViewProzent400")->trigger();
+    f.aktion("Commandzoom_1")->trigger();
+    EXPECT_EQ(f.s.Zoomfaktor, 400);
+    f.aktion("mnuViewProzent50")->trigger();
+    f.aktion("Commandzoom_0")->trigger();
+    EXPECT_EQ(f.s.Zoomfaktor, 50);
+    EXPECT_EQ(f.s.LadeSperre, 0);
+}
+
+TEST(Befehle, UmschalterUndDasUmgekehrteHaekchen) {
+    Fenster f("ZP Briefkopf");
+    f.s.MMGenau = 0;
+    QAction* mm = f.aktion("mmummgenau");
+    mm->trigger();
+    EXPECT_EQ(f.s.MMGenau, -1);
+    EXPECT_FALSE(mm->isChecked());
+    mm->trigger();
+    EXPECT_EQ(f.s.MMGenau, 0);
+    EXPECT_TRUE(mm->isChecked());
+    const float grid = f.s.GridAn;
+    f.aktion("mnuGitterlinienansicht")->trigger();
+    EXPECT_EQ(f.s.GridAn, grid == 0 ? -1 : 0);
+    EXPECT_EQ(f.aktion("mnuGitterlinienansicht")->isChecked(), f.s.GridAn != 0);
+}
+
+TEST(Befehle, JahrAusDerListeMitJaUndNein) {
+    Fenster f("ZP Kalender");
+    auto* jahr = f.kind<QComboBox>("ComboJahr");
+    for (int i = 1; i <= f.s.FeiertagWahl.Obergrenze(); ++i)
+        f.s.FeiertagWahl(i) = 1; // every holiday switched on
+    f.fenster->antwort = false;
+    emit jahr->activated(14); // 2004
+    EXPECT_EQ(f.s.Kalenderjahr, 2004);
+    EXPECT_TRUE(f.s.Feiertage(1, 1).isEmpty());
+    EXPECT_EQ(f.kind<Monatskalender>("MonthView2")->minimumDate(), QDate(2004, 1, 1));
+    EXPECT_EQ(f.kind<Monatskalender>("MonthView1")->maximumDate(), QDate(2004, 12, 31));
+    f.fenster->antwort = true;
+    emit jahr->activated(15);
+    EXPECT_EQ(f.s.Kalenderjahr, 2005);
+    EXPECT_EQ(f.s.Feiertage(1, 1), "Neujahr");
+    EXPECT_EQ(f.fenster->fragen.count("Sollen die Feiertage neu berechnet werden?"), 2);
+    // A typed year of 0 is refused and the box shows the year again.
+    jahr->setEditText("0");
+    emit jahr->lineEdit()->editingFinished();
+    EXPECT_EQ(f.s.Kalenderjahr, 2005);
+    EXPECT_EQ(jahr->currentText(), "2005");
+    EXPECT_EQ(f.fenster->meldungen.size(), 1);
+}
+
+TEST(Befehle, KartenMitDatensaetzenBlaettern) {
+    Fenster f("ZP Visitenkarte");
+    f.s.Datensaetze.RedimPreserve(30, 3);
+    f.s.DatensatzAnzahl = 3;
+    f.s.Datensaetze(1, 3) = "Erika Muster";
+    f.kind<QPushButton>("Comdata4")->click();
+    EXPECT_EQ(f.s.DatensatzNummer, 3);
+    EXPECT_EQ(f.kind<QLineEdit>("Text1_21")->text(), "Erika Muster");
+    EXPECT_EQ(f.kind<QLineEdit>("TextData")->text(), "3");
+    f.kind<QPushButton>("ComData1")->click();
+    EXPECT_EQ(f.s.DatensatzNummer, 1);
+    EXPECT_TRUE(f.kind<QLineEdit>("Text1_21")->text().isEmpty());
+}
+
+TEST(Befehle, TerminUeberDreiTageUndEinenGeleert) {
+    Fenster f("ZP Kalender");
+    auto* ansicht = f.kind<Monatskalender>("MonthView1");
+    auto* text = f.kind<QPlainTextEdit>("TextTermin");
+    ansicht->Waehlen(QDate(2002, 6, 10));
+    ansicht->Waehlen(QDate(2002, 6, 12), true);
+    EXPECT_EQ(ansicht->SelStart(), QDate(2002, 6, 10));
+    text->setPlainText("Ferien\nam See");
+    for (int t = 10; t <= 12; ++t)
+        EXPECT_EQ(f.s.Termine(t, 6), "Ferien\r\nam See") << t;
+    EXPECT_EQ(ansicht->dateTextFormat(QDate(2002, 6, 11)).fontWeight(), QFont::Bold);
+    ansicht->Waehlen(QDate(2002, 6, 11));
+    EXPECT_EQ(text->toPlainText(), "Ferien\nam See");
+    text->clear();
+    EXPECT_EQ(f.s.Termine(10, 6), "Ferien\r\nam See");
+    EXPECT_TRUE(f.s.Termine(11, 6).isEmpty());
+    EXPECT_EQ(f.s.Termine(12, 6), "Ferien\r\nam See");
+    EXPECT_NE(ansicht->dateTextFormat(QDate(2002, 6, 11)).fontWeight(), QFont::Bold);
+}
+
+TEST(Befehle, FarbdialogAbbrechenAendertNichts) {
+    Fenster f("ZP Kalender");
+    auto* ansicht = f.kind<Monatskalender>("MonthView2");
+    ansicht->Waehlen(QDate(2002, 12, 24));
+    f.fenster->farbe.reset();
+    f.kind<QToolButton>("PictureFeiertagBack")->click();
+    EXPECT_EQ(f.s.FeiertagBack(24, 12), -1);
+    f.fenster->farbe = QColor(255, 0, 0);
+    f.kind<QToolButton>("PictureFeiertagBack")->click();
+    EXPECT_EQ(f.s.FeiertagBack(24, 12), 0x0000FF);
+}
+
+TEST(Befehle, TextfeldFuehrtTextUndSichtbarkeit) {
+    Fenster f("ZP Briefkopf");
+    f.s.SchriftNummer = 3;
+    f.s.RahmenNummer = 3;
+    f.kind<QLineEdit>("Text1_3")->setText("Firma Muster");
+    EXPECT_EQ(f.s.Schriftliste(3).Textstring, "Firma Muster");
+    EXPECT_EQ(f.s.Rahmenliste(3).Sichtbar, -1);
+    f.kind<QLineEdit>("Text1_3")->clear();
+    EXPECT_EQ(f.s.Rahmenliste(3).Sichtbar, 0);
+    // Boxes 21 to 30 are the current record's fields.
+    f.s.DatensatzNummer = 2;
+    f.kind<QLineEdit>("Text1_22")->setText("Hauptstraße 1");
+    EXPECT_EQ(f.s.Datensaetze(2, 2), "Hauptstraße 1");
+    EXPECT_EQ(f.s.Panel.Text1(22), "Hauptstraße 1");
+    EXPECT_EQ(f.s.Rahmenliste(22).Sichtbar, -1); // frames 21 to 30 are left alone
+}
+
+TEST(Befehle, SchliessenSchreibtDieDateienDesKalenders) {
+    Fenster f("ZP Kalender");
+    f.p.aufrufe.clear();
+    f.aktion("mnuFileExit")->trigger();
+    EXPECT_EQ(f.p.namen(), (QStringList{"SaveSettings", "SaveKalenderIni", "SpeichereDaten", "SaveDesign"}));
+    EXPECT_EQ(f.s.Datendatei, f.s.Programmpfad + "auto.zpd");
+    EXPECT_FALSE(f.fenster->isVisible());
+}
+
+TEST(Befehle, PanelknoepfeUndSchnappschuss) {
+    Fenster f("ZP Visitenkarte");
+    f.p.aufrufe.clear();
+    f.aktion("Toolbar4_3")->trigger();
+    EXPECT_EQ(f.kind<QStackedWidget>("Frame1")->currentWidget()->objectName(), "Frame1_3");
+    ASSERT_EQ(f.p.namen(), QStringList{"SaveDesign"});
+    EXPECT_TRUE(f.p.aufrufe[0].contains("/test.zpb|"));
+    EXPECT_FALSE(f.s.AktuelleDatei.endsWith("test.zpb"));
+}
+
+TEST(Drucken, DialogZeigtSeitenUndSchreibtAbgleichSofort) {
+    AppState s;
+    QTemporaryDir ordner;
+    Grundzustand(s, "ZP Kalender", ordner.path());
+    s.Kalendertyp = 4;
+    Nutzer ui;
+    Dokumentdienste d;
+    Druckdialogwerte erhalten;
+    d.Drucken = [&](AppState&, Oberflaeche&, const Druckdialogwerte& w,
+                    const std::function<bool(int, int)>& f) {
+        erhalten = w;
+        return f(1, 1);
+    };
+    FrmDrucken dialog(s, ui, d);
+    EXPECT_EQ(dialog.findChild<QLineEdit*>("TextDruckEnde")->text(), "12");
+    EXPECT_EQ(dialog.findChild<QLineEdit*>("TextProzent")->text(), "100");
+    EXPECT_TRUE(dialog.findChild<QLineEdit*>("TextDruckStart")->isEnabled());
+    auto* x = dialog.findChild<QLineEdit*>("TextAbgleichx");
+    x->setText("12,5x");
+    emit x->textEdited(x->text());
+    EXPECT_EQ(s.AbgleichX, 12); // numeric prefix: the comma ends the number
+    dialog.findChild<QCheckBox*>("Check2")->setChecked(true);
+    EXPECT_EQ(s.AktuellesEtikett.Schnittmarken, -1);
+    dialog.findChild<QLineEdit*>("TextDruckEnde")->setText("99");
+    dialog.CommandDrucken();
+    EXPECT_EQ(erhalten.TextDruckEnde, "99");
+    EXPECT_EQ(erhalten.Drucker, dialog.findChild<QComboBox*>("Combo1")->currentText());
+
+    s.Kalendertyp = 3;
+    FrmDrucken tasche(s, ui, d);
+    EXPECT_FALSE(tasche.findChild<QLineEdit*>("TextDruckStart")->isEnabled());
+    EXPECT_EQ(tasche.findChild<QLineEdit*>("TextDruckEnde")->text(), "1");
+}
+
+} // namespace
+} // namespace zp::test
