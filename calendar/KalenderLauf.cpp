@@ -76,17 +76,21 @@ void Wochenstart(int jahr, int seite, double& wocheTag, double& wocheMonat) {
     wocheTag = 0;
     wocheMonat = 1;
     if (!JahrGueltig(jahr)) return;
-    int t = ErsterTagVersatz(jahr, 1, 0);
-    for (int p = 1; p <= seite - 1; ++p) {
-        while (t != 7) {
-            ++t;
-            wocheTag += 1;
-            if (wocheTag == LetzterTag(jahr, static_cast<int>(wocheMonat))) {
-                wocheTag = 0;
-                wocheMonat += 1;
-            }
+    for (int p = 1; p <= seite - 1; ++p)
+        NaechsteWoche(jahr, p, wocheTag, wocheMonat);
+}
+
+void NaechsteWoche(int jahr, int seite, double& wocheTag, double& wocheMonat) {
+    // The first page ends on the first Sunday of the year: it holds the rest of the week that
+    // began in December, so only the days up to that Sunday are stepped over.
+    int t = seite <= 1 ? ErsterTagVersatz(jahr, 1, 0) : 0;
+    while (t != 7) {
+        ++t;
+        wocheTag += 1;
+        if (wocheTag == LetzterTag(jahr, static_cast<int>(wocheMonat))) {
+            wocheTag = 0;
+            wocheMonat += 1;
         }
-        t = 0;
     }
 }
 

@@ -27,6 +27,8 @@ void KalenderRahmenLauf(AppState& s, KalenderZeichner& zeichner, int n);
 // Start of week page `seite` (day before its first day, and month), as the page composition
 // works it out before it draws a week calendar.
 void Wochenstart(int jahr, int seite, double& wocheTag, double& wocheMonat);
+// One week page on: the counters move from the start of page `seite` to that of the next page.
+void NaechsteWoche(int jahr, int seite, double& wocheTag, double& wocheMonat);
 
 // Pages of a calendar type: 2, 1, 1, 12, 12, 53, 4 for the types 1 to 7.
 [[nodiscard]] int Seitenanzahl(int kalendertyp);
