@@ -3,6 +3,7 @@
 #include "AppState.h"
 #include "Start.h"
 #include "calendar/Kalenderdateien.h"
+#include "calendar/Kalendertypen.h"
 #include "persist/Datensaetze.h"
 #include "persist/Design.h"
 #include "persist/Einstellungen.h"
@@ -18,7 +19,7 @@ bool BeendenDateienSchreiben(AppState& s, Oberflaeche& ui) {
         ok = SaveKalenderIni(s, ui) && ok;
         ok = SpeichereAutoDaten(s, ui) && ok; // the day data's safety copy auto.zpd
         // The calendar's design goes back to the working design of its type and variant.
-        s.AktuelleDatei = KalenderDesigndatei(s);
+        s.AktuelleDatei = Designdatei(s);
         ok = SaveDesign(s, ui) && ok;
     }
     if (s.IstEtikett != 0) ok = SaveKartenformate(s, ui) && ok;

@@ -2,6 +2,7 @@
 
 #include "AppState.h"
 #include "Oberflaeche.h"
+#include "calendar/Kalendertypen.h"
 #include "core/Datensatzbefehle.h"
 #include "core/runtime/Basic.h"
 #include "model/Objekte.h"
@@ -176,11 +177,6 @@ void Main(AppState& s, const QString& programmpfad, Oberflaeche& ui) {
     ui.Mauszeiger(0);
 }
 
-QString KalenderDesigndatei(const AppState& s) {
-    return s.Programmpfad + QStringLiteral("kal") + basic::Str(s.Kalendertyp).trimmed() + s.Designvariante +
-           QStringLiteral(".zpk");
-}
-
 void SetzeEditionsflags(AppState& s) {
     s.IstKalender = s.IstVisitenkarte = s.IstBriefkopf = s.IstEtikett = s.IstCDHuelle = 0;
     const QString& name = s.Programmname;
@@ -247,7 +243,7 @@ bool LadeStartzustand(AppState& s, Oberflaeche& ui) {
     }
     // The start document: the calendar type's working design, else the new document.
     if (s.IstKalender != 0)
-        s.AktuelleDatei = KalenderDesigndatei(s);
+        s.AktuelleDatei = Designdatei(s);
     else
         s.Ladevorgabe = QStringLiteral("neu");
     const bool geladen = LoadDesign(s, ui);

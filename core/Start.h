@@ -23,9 +23,6 @@ void SetzeEditionsflags(AppState& s);
 // (the message has been given); the built-in document then stays.
 bool LadeStartzustand(AppState& s, Oberflaeche& ui);
 
-// The working design of the current calendar type and variant: "<Programmpfad>kal1.zpk", "kal2v2.zpk".
-[[nodiscard]] QString KalenderDesigndatei(const AppState& s);
-
 // Fills `Schriftenliste` and `SchriftSkalierbar` from the installed font families, with the end
 // mark "-1" after the last one.
 void LeseSchriftenliste(AppState& s);

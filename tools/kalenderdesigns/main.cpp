@@ -9,6 +9,7 @@
 #include "Monatsbilder.h"
 
 #include "calendar/Feiertage.h"
+#include "calendar/Kalendertypen.h"
 #include "calendar/Standarddesign.h"
 #include "calendar/Tagesdaten.h"
 #include "compose/Seitenbild.h"
@@ -145,8 +146,7 @@ int main(int argc, char** argv) {
                     LeseSchriftenliste(s);
                     s.Kalendertyp = typ;
                     s.Designvariante = variante == 2 ? QStringLiteral("v2") : QString();
-                    s.AktuelleDatei =
-                        ziel + QStringLiteral("daten/") + QFileInfo(KalenderDesigndatei(s)).fileName();
+                    s.AktuelleDatei = ziel + QStringLiteral("daten/") + QFileInfo(Designdatei(s)).fileName();
                     if (!LoadDesign(s, ui)) return 1;
                     s.Seitennummer = seite;
                     s.Panel.TextTitel = QStringLiteral("Familienkalender %1").arg(jahr);
