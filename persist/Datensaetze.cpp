@@ -13,15 +13,6 @@ namespace zp {
 
 namespace {
 const QString Kopf = QStringLiteral("ZP Datenbank");
-
-// A field is one line of the file: a line break typed into a field would put every later record
-// out of step, so it is written as a blank.
-QString AlsZeile(QString feld) {
-    feld.replace(QLatin1String("\r\n"), QLatin1String(" "));
-    feld.replace(QLatin1Char('\r'), QLatin1Char(' '));
-    feld.replace(QLatin1Char('\n'), QLatin1Char(' '));
-    return feld;
-}
 } // namespace
 
 DatenbankLesung LeseDatenbank(const QByteArray& bytes, Datenbank& ziel) {
@@ -56,7 +47,7 @@ QByteArray SchreibeDatenbank(const AppState& s) {
     out.WriteLine(anzahl);
     for (int r = 1; r <= anzahl; ++r)
         for (int f = 1; f <= DatensatzFelder; ++f)
-            out.WriteLine(tabelle.Gueltig(f, r) ? AlsZeile(tabelle(f, r)) : QString());
+            out.WriteLine(tabelle.Gueltig(f, r) ? EinzeiligesFeld(tabelle(f, r)) : QString());
     out.WriteLine(QStringLiteral("-1"));
     return out.Bytes();
 }

@@ -12,15 +12,6 @@ const QString kEnde = QStringLiteral("-1");
 const QString kZeilenumbruch = QStringLiteral("\r\n");
 // Any of the three line ends a text box may hand over.
 const QRegularExpression kZeilenwechsel(QStringLiteral("\r\n|\r|\n"));
-
-// A line break inside a one-line field would shift every later line of the file; it is written
-// as a blank so the file stays readable.
-QString EineZeile(QString text) {
-    text.replace(kZeilenumbruch, QStringLiteral(" "));
-    text.replace(QLatin1Char('\n'), QLatin1Char(' '));
-    text.replace(QLatin1Char('\r'), QLatin1Char(' '));
-    return text;
-}
 } // namespace
 
 Kalenderdaten KalenderdatenAus(const AppState& s) {
@@ -67,16 +58,16 @@ QByteArray ZpdBytes(const Kalenderdaten& d) {
         }
     for (int m = 1; m <= 12; ++m)
         for (int t = 1; t <= 31; ++t) {
-            w.WriteLine(EineZeile(d.Feiertage(t, m)));
+            w.WriteLine(EinzeiligesFeld(d.Feiertage(t, m)));
             w.WriteLine(d.FeiertagSchrift(t, m));
             w.WriteLine(d.FeiertagBack(t, m));
         }
     for (int m = 1; m <= 12; ++m) {
-        w.WriteLine(EineZeile(d.Monatsbilder(m)));
-        w.WriteLine(EineZeile(d.Monatsbildtexte(m)));
+        w.WriteLine(EinzeiligesFeld(d.Monatsbilder(m)));
+        w.WriteLine(EinzeiligesFeld(d.Monatsbildtexte(m)));
     }
-    w.WriteLine(EineZeile(d.TextTitel));
-    w.WriteLine(EineZeile(d.TextUnterschrift));
+    w.WriteLine(EinzeiligesFeld(d.TextTitel));
+    w.WriteLine(EinzeiligesFeld(d.TextUnterschrift));
     // ZeilenSchreiber joins the list with CR LF; a slot's inner breaks are part of its one entry.
     return w.Bytes();
 }

@@ -60,13 +60,6 @@ double Abgeschnitten(double v) {
     return std::floor(v);
 }
 
-QString Einzeilig(QString t) {
-    t.replace(QLatin1String("\r\n"), QLatin1String(" "));
-    t.replace(QLatin1Char('\r'), QLatin1Char(' '));
-    t.replace(QLatin1Char('\n'), QLatin1Char(' '));
-    return t;
-}
-
 } // namespace
 
 LayoutLesung WendeLayoutAn(AppState& s, const QByteArray& bytes, const QString& dateiname) {
@@ -226,7 +219,7 @@ QByteArray SchreibeLayout(const AppState& s) {
         out.WriteLine(t.ShadowType);
         out.WriteLine(t.ShadowWay);
         out.WriteBool(t.Strike != 0);
-        out.WriteLine(Einzeilig(t.Textstring)); // the record has exactly 27 lines
+        out.WriteLine(EinzeiligesFeld(t.Textstring)); // the record has exactly 27 lines
         // Top is read back by its numeric prefix, so it goes with a point, not the regional comma.
         out.WriteLine(QString::number(t.Top, 'g', 15));
         out.WriteBool(t.Underline != 0);

@@ -149,4 +149,11 @@ void ZeilenSchreiber::WriteSingle(float value) {
     m_lines << basic::SingleText(value);
 }
 
+QString EinzeiligesFeld(QString text) {
+    text.replace(QLatin1String("\r\n"), QLatin1String(" "));
+    text.replace(QLatin1Char('\r'), QLatin1Char(' '));
+    text.replace(QLatin1Char('\n'), QLatin1Char(' '));
+    return text;
+}
+
 } // namespace zp

@@ -19,6 +19,10 @@ namespace zp {
 // character has no Windows-1252 byte, so that nothing typed is lost.
 [[nodiscard]] QByteArray BytesAusZeilen(const QStringList& lines);
 
+// A value that must stay on one line of a positional file: a line break inside it would put every
+// later line out of step, so each CR LF, CR and LF becomes a blank.
+[[nodiscard]] QString EinzeiligesFeld(QString text);
+
 // Reads a whole file; std::nullopt when it can't be opened.
 [[nodiscard]] std::optional<QByteArray> LeseDatei(const QString& path);
 // Replaces `path` atomically with `bytes` (QSaveFile). On failure returns false and fills `fehler`.
