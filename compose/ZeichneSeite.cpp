@@ -76,21 +76,7 @@ void ZeichneEtikettHintergrund(AppState& s, Canvas& ziel) {
     r.Sichtbar = -1;
     if (F == 5 || (F == 4 && M >= 1)) {
         r.Objekttyp = QStringLiteral("Bild");
-        ClassBild& b = s.AktuellesBild;
-        b.File = F == 5 ? s.Programmpfad + QStringLiteral("daten/must") + QString::number(M) +
-                              QStringLiteral(".jpg")
-                        : e.Bilddatei;
-        b.Effekt = QStringLiteral("0");
-        b.EffektMosaik = b.EffektPixel = 0;
-        b.EffektTrapez = 0;
-        b.Farbintensität = 0;
-        b.Farbverschiebung = 0;
-        b.Gray = 0;
-        b.Helligkeit = 0;
-        b.Invert = 0;
-        b.Kontrast = 0;
-        b.Rotate = 0;
-        b.Schärfe = 0;
+        NeuesArbeitsbild(s.AktuellesBild, HintergrundbildDatei(s, e));
         ZeichneBildHintergrund(s, ziel);
     } else if (F != 4) {
         r.Objekttyp = QStringLiteral("Linie");

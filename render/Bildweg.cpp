@@ -17,7 +17,10 @@ bool DateiVorhanden(const QString& datei) {
     return !datei.isEmpty() && QFileInfo(datei).isFile();
 }
 
-void ArbeitsbildLeeren(ClassBild& b) {
+} // namespace
+
+void NeuesArbeitsbild(ClassBild& b, const QString& datei) {
+    b.File = datei;
     b.Effekt = QStringLiteral("0");
     b.EffektMosaik = 0;
     b.EffektPixel = 0;
@@ -31,6 +34,8 @@ void ArbeitsbildLeeren(ClassBild& b) {
     b.Rotate = 0;
     b.Schärfe = 0;
 }
+
+namespace {
 
 void LeadRechteckLeeren(Lead& lead) {
     lead.Left = lead.Top = lead.Width = lead.Height = 0;
@@ -63,8 +68,7 @@ void ZeichneBildHintergrund(AppState& s, Canvas& ziel) {
 
     Lead& lead = BildwerkVon(s).Lead;
     LeadRechteckLeeren(lead);
-    s.AktuellesBild.File = datei;
-    ArbeitsbildLeeren(s.AktuellesBild);
+    NeuesArbeitsbild(s.AktuellesBild, datei);
     if (!DateiVorhanden(datei)) return;
 
     BildLaden(s, s.AktuellesBild, lead);

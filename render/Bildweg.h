@@ -7,6 +7,7 @@
 
 namespace zp {
 struct AppState;
+struct ClassBild;
 struct ClassEtikett;
 struct ClassRahmen;
 class Canvas;
@@ -20,6 +21,8 @@ void ZeichneKartendesign(AppState& s, Canvas& ziel, double breite, double hoehe,
 // Steps 8f and 8g: picture frame n, loaded, corrected, fitted where the edition asks, rendered.
 void ZeichneBildRahmen(AppState& s, Canvas& ziel, int n);
 
+// The work picture of a background: the file, with every effect and correction off.
+void NeuesArbeitsbild(ClassBild& bild, const QString& datei);
 // The pattern file <Programmpfad>daten/must<M>.jpg.
 [[nodiscard]] QString MusterDatei(const AppState& s, int muster);
 // The picture behind a label: the pattern for kind 5, the sheet's Bilddatei for kind 4 (with
