@@ -15,6 +15,7 @@
 
 class QAction;
 class QComboBox;
+class QFormLayout;
 class QLabel;
 class QLineEdit;
 class QListWidget;
@@ -92,6 +93,8 @@ private:
     QWidget* PanelMonatsbilder();
     QAction* NeueAktion(QMenu* menue, const char* name, const QString& titel);
     QToolButton* Farbfeld(const char* name);
+    QFormLayout* Farbpaar(int erstes, const char* schrift, const char* hintergrund);
+    void Textfelder(QFormLayout* f, int von, int bis);
 
     // Binding, in FrmMainBefehle.cpp.
     void Verbinden();

@@ -37,11 +37,17 @@ QIcon Symbol(const char* thema, QStyle::StandardPixmap ersatz, QWidget* w) {
     return QIcon::fromTheme(QString::fromLatin1(thema), w->style()->standardIcon(ersatz));
 }
 
+// A new widget under its object name, by which the window's handlers and tests find it.
+template <typename W, typename... Args> W* Benannt(const QString& name, Args&&... args) {
+    auto* w = new W(std::forward<Args>(args)...);
+    w->setObjectName(name);
+    return w;
+}
+
 QWidget* Seitenpanel(const QString& name, QLayout* inhalt) {
     auto* innen = new QWidget;
     innen->setLayout(inhalt);
-    auto* rollen = new QScrollArea;
-    rollen->setObjectName(name);
+    auto* rollen = Benannt<QScrollArea>(name);
     rollen->setWidgetResizable(true);
     rollen->setFrameShape(QFrame::NoFrame);
     rollen->setWidget(innen);
@@ -51,8 +57,7 @@ QWidget* Seitenpanel(const QString& name, QLayout* inhalt) {
 } // namespace
 
 QAction* FrmMain::NeueAktion(QMenu* menue, const char* name, const QString& titel) {
-    auto* a = new QAction(titel, this);
-    a->setObjectName(QString::fromUtf8(name));
+    auto* a = Benannt<QAction>(QString::fromUtf8(name), titel, this);
     menue->addAction(a);
     m_aktionen.insert(a->objectName(), a);
     return a;
@@ -149,8 +154,7 @@ void FrmMain::MenuesAnlegen() {
     NeueAktion(hilfe, "mnuInfo", QStringLiteral("Info"));
 
     // The page's context menu; its entries edit frames, which the mouse editing brings.
-    auto* pop = new QMenu(this);
-    pop->setObjectName(QStringLiteral("PopSchrift"));
+    auto* pop = Benannt<QMenu>(QStringLiteral("PopSchrift"), this);
     NeueAktion(pop, "popEigenschaft", QStringLiteral("Eigenschaft"));
     NeueAktion(pop, "popPositionieren", QStringLiteral("Positionieren"));
     NeueAktion(pop, "mnuVerankern", QStringLiteral("Verankern"));
@@ -161,12 +165,10 @@ void FrmMain::MenuesAnlegen() {
     NeueAktion(pop, "popeinshinten", QStringLiteral("eins nach hinten"));
 
     // The view's zoom keys beside the menu's percentages.
-    auto* rein = new QAction(QStringLiteral("Vergrößern"), this);
-    rein->setObjectName(QStringLiteral("Commandzoom_1"));
+    auto* rein = Benannt<QAction>(QStringLiteral("Commandzoom_1"), QStringLiteral("Vergrößern"), this);
     rein->setShortcuts({QKeySequence::ZoomIn, QKeySequence(Qt::CTRL | Qt::Key_Equal)});
     rein->setIcon(Symbol("zoom-in", QStyle::SP_ArrowUp, this));
-    auto* raus = new QAction(QStringLiteral("Verkleinern"), this);
-    raus->setObjectName(QStringLiteral("Commandzoom_0"));
+    auto* raus = Benannt<QAction>(QStringLiteral("Commandzoom_0"), QStringLiteral("Verkleinern"), this);
     raus->setShortcut(QKeySequence::ZoomOut);
     raus->setIcon(Symbol("zoom-out", QStyle::SP_ArrowDown, this));
     m_aktionen.insert(rein->objectName(), rein);
@@ -192,8 +194,8 @@ void FrmMain::ToolbarsAnlegen() {
                              {"Einfügen", "insert-object", QStyle::SP_FileDialogNewFolder, nullptr}};
     for (const Knopf& k : knoepfe) {
         const QString schluessel = QString::fromUtf8(k.schluessel);
-        auto* a = new QAction(Symbol(k.thema, k.ersatz, this), schluessel, this);
-        a->setObjectName(QStringLiteral("Toolbar1_") + schluessel);
+        auto* a = Benannt<QAction>(QStringLiteral("Toolbar1_") + schluessel, Symbol(k.thema, k.ersatz, this),
+                                   schluessel, this);
         if (k.menue) {
             QAction* ziel = Aktion(QString::fromUtf8(k.menue));
             connect(a, &QAction::triggered, ziel, &QAction::trigger);
@@ -210,11 +212,9 @@ void FrmMain::ToolbarsAnlegen() {
     m_toolbar3 = addToolBar(QStringLiteral("Format"));
     m_toolbar3->setObjectName(QStringLiteral("Toolbar3"));
     m_toolbar3->setMovable(false);
-    m_combo1 = new QComboBox;
-    m_combo1->setObjectName(QStringLiteral("Combo1"));
+    m_combo1 = Benannt<QComboBox>(QStringLiteral("Combo1"));
     m_combo1->setMinimumContentsLength(14);
-    m_combo3 = new QComboBox;
-    m_combo3->setObjectName(QStringLiteral("Combo3"));
+    m_combo3 = Benannt<QComboBox>(QStringLiteral("Combo3"));
     m_toolbar3->addWidget(m_combo1);
     m_toolbar3->addWidget(m_combo3);
     m_toolbar3->setEnabled(false);
@@ -226,8 +226,8 @@ void FrmMain::ToolbarsAnlegen() {
         t->setMovable(false);
         t->setToolButtonStyle(Qt::ToolButtonTextOnly);
         for (int i = 0; i < titel.size(); ++i) {
-            auto* a = new QAction(titel[i], this);
-            a->setObjectName(QStringLiteral("%1_%2").arg(QString::fromUtf8(name)).arg(i + 1));
+            auto* a = Benannt<QAction>(QStringLiteral("%1_%2").arg(QString::fromUtf8(name)).arg(i + 1),
+                                       titel[i], this);
             a->setCheckable(i < 4);
             m_aktionen.insert(a->objectName(), a);
             t->addAction(a);
@@ -244,24 +244,37 @@ void FrmMain::ToolbarsAnlegen() {
 }
 
 QToolButton* FrmMain::Farbfeld(const char* name) {
-    auto* b = new QToolButton;
-    b->setObjectName(QString::fromUtf8(name));
+    auto* b = Benannt<QToolButton>(QString::fromUtf8(name));
     b->setFixedSize(40, 20);
     b->setAutoRaise(false);
     FarbfeldZeigen(b, 0xFFFFFF);
     return b;
 }
 
-QWidget* FrmMain::PanelTexte() {
-    auto* f = new QFormLayout;
-    for (int i = 1; i <= 20; ++i) {
-        m_label1[i] = new QLabel;
-        m_label1[i]->setObjectName(QStringLiteral("Label1_%1").arg(i));
-        m_text1[i] = new QLineEdit;
-        m_text1[i]->setObjectName(QStringLiteral("Text1_%1").arg(i));
+// The named text fields Text1(von..bis), each behind its Label1 caption.
+void FrmMain::Textfelder(QFormLayout* f, int von, int bis) {
+    for (int i = von; i <= bis; ++i) {
+        m_label1[i] = Benannt<QLabel>(QStringLiteral("Label1_%1").arg(i));
+        m_text1[i] = Benannt<QLineEdit>(QStringLiteral("Text1_%1").arg(i));
         m_label1[i]->setBuddy(m_text1[i]);
         f->addRow(m_label1[i], m_text1[i]);
     }
+}
+
+// Text and background colour of the days, as the appointment and holiday panels pick them:
+// colour fields `erstes` and `erstes + 1`.
+QFormLayout* FrmMain::Farbpaar(int erstes, const char* schrift, const char* hintergrund) {
+    auto* farben = new QFormLayout;
+    m_farbfeld[erstes] = Farbfeld(schrift);
+    m_farbfeld[erstes + 1] = Farbfeld(hintergrund);
+    farben->addRow(QStringLiteral("Textfarbe"), m_farbfeld[erstes]);
+    farben->addRow(QStringLiteral("Hintergrund"), m_farbfeld[erstes + 1]);
+    return farben;
+}
+
+QWidget* FrmMain::PanelTexte() {
+    auto* f = new QFormLayout;
+    Textfelder(f, 1, 20);
     return Seitenpanel(QStringLiteral("Frame1_1"), f);
 }
 
@@ -271,35 +284,24 @@ QWidget* FrmMain::PanelDatensatz() {
     const char* namen[] = {"ComData1", "ComData2", "Comdata3", "Comdata4"};
     const char* titel[] = {"|<", "<", ">", ">|"};
     for (int i = 0; i < 4; ++i) {
-        auto* b = new QPushButton(QString::fromLatin1(titel[i]));
-        b->setObjectName(QString::fromLatin1(namen[i]));
+        auto* b = Benannt<QPushButton>(QString::fromLatin1(namen[i]), QString::fromLatin1(titel[i]));
         b->setMaximumWidth(32);
         nav->addWidget(b);
     }
-    m_textData = new QLineEdit;
-    m_textData->setObjectName(QStringLiteral("TextData"));
+    m_textData = Benannt<QLineEdit>(QStringLiteral("TextData"));
     m_textData->setMaximumWidth(50);
     nav->insertWidget(2, m_textData);
     v->addLayout(nav);
     auto* f = new QFormLayout;
-    for (int i = 21; i <= 30; ++i) {
-        m_label1[i] = new QLabel;
-        m_label1[i]->setObjectName(QStringLiteral("Label1_%1").arg(i));
-        m_text1[i] = new QLineEdit;
-        m_text1[i]->setObjectName(QStringLiteral("Text1_%1").arg(i));
-        m_label1[i]->setBuddy(m_text1[i]);
-        f->addRow(m_label1[i], m_text1[i]);
-    }
+    Textfelder(f, 21, 30);
     v->addLayout(f);
-    auto* textSuchen = new QLineEdit;
-    textSuchen->setObjectName(QStringLiteral("TextSuchen"));
+    auto* textSuchen = Benannt<QLineEdit>(QStringLiteral("TextSuchen"));
     textSuchen->setPlaceholderText(QStringLiteral("Suchtext"));
     v->addWidget(textSuchen);
     auto* suchen = new QHBoxLayout;
     const char* knoepfe[][2] = {{"Command1", "Suchen"}, {"Command2", "Löschen"}, {"Command3", "Einfügen"}};
     for (auto& k : knoepfe) {
-        auto* b = new QPushButton(QString::fromUtf8(k[1]));
-        b->setObjectName(QString::fromLatin1(k[0]));
+        auto* b = Benannt<QPushButton>(QString::fromLatin1(k[0]), QString::fromUtf8(k[1]));
         suchen->addWidget(b);
     }
     v->addLayout(suchen);
@@ -311,8 +313,8 @@ QWidget* FrmMain::PanelLayouts() {
     auto* v = new QVBoxLayout;
     v->addWidget(new QLabel(QStringLiteral("Die Texte neu anordnen:")));
     for (int k = 1; k <= 5; ++k) {
-        auto* b = new QPushButton(QStringLiteral("Layout %1").arg(k));
-        b->setObjectName(QStringLiteral("Command4_%1").arg(k));
+        auto* b =
+            Benannt<QPushButton>(QStringLiteral("Command4_%1").arg(k), QStringLiteral("Layout %1").arg(k));
         v->addWidget(b);
     }
     v->addStretch();
@@ -322,31 +324,23 @@ QWidget* FrmMain::PanelLayouts() {
 QWidget* FrmMain::PanelGalerie() {
     auto* v = new QVBoxLayout;
     v->addWidget(new QLabel(QStringLiteral("Vorlage wählen:")));
-    m_list1 = new QListWidget;
-    m_list1->setObjectName(QStringLiteral("List1"));
+    m_list1 = Benannt<QListWidget>(QStringLiteral("List1"));
     v->addWidget(m_list1);
     return Seitenpanel(QStringLiteral("Frame1_5"), v);
 }
 
 QWidget* FrmMain::PanelTermine() {
     auto* v = new QVBoxLayout;
-    m_monat1 = new Monatskalender;
-    m_monat1->setObjectName(QStringLiteral("MonthView1"));
+    m_monat1 = Benannt<Monatskalender>(QStringLiteral("MonthView1"));
     v->addWidget(m_monat1);
     v->addWidget(new QLabel(QStringLiteral("Termin (Umschalt+Klick wählt mehrere Tage):")));
-    m_textTermin = new QPlainTextEdit;
-    m_textTermin->setObjectName(QStringLiteral("TextTermin"));
+    m_textTermin = Benannt<QPlainTextEdit>(QStringLiteral("TextTermin"));
     m_textTermin->setTabChangesFocus(true);
     m_textTermin->setMaximumHeight(70);
     v->addWidget(m_textTermin);
-    auto* farben = new QFormLayout;
-    m_farbfeld[0] = Farbfeld("PictureTextfarbe");
-    m_farbfeld[1] = Farbfeld("PictureHintergrundfarbe");
-    farben->addRow(QStringLiteral("Textfarbe"), m_farbfeld[0]);
-    farben->addRow(QStringLiteral("Hintergrund"), m_farbfeld[1]);
-    v->addLayout(farben);
-    auto* aktualisieren = new QPushButton(QStringLiteral("Aktualisieren"));
-    aktualisieren->setObjectName(QStringLiteral("CommandAktualisieren"));
+    v->addLayout(Farbpaar(0, "PictureTextfarbe", "PictureHintergrundfarbe"));
+    auto* aktualisieren =
+        Benannt<QPushButton>(QStringLiteral("CommandAktualisieren"), QStringLiteral("Aktualisieren"));
     v->addWidget(aktualisieren);
     v->addStretch();
     return Seitenpanel(QStringLiteral("Frame1_6"), v);
@@ -354,29 +348,21 @@ QWidget* FrmMain::PanelTermine() {
 
 QWidget* FrmMain::PanelFeiertage() {
     auto* v = new QVBoxLayout;
-    m_monat2 = new Monatskalender;
-    m_monat2->setObjectName(QStringLiteral("MonthView2"));
+    m_monat2 = Benannt<Monatskalender>(QStringLiteral("MonthView2"));
     v->addWidget(m_monat2);
     v->addWidget(new QLabel(QStringLiteral("Feiertag:")));
-    m_textFeiertag = new QLineEdit;
-    m_textFeiertag->setObjectName(QStringLiteral("TextFeiertag"));
+    m_textFeiertag = Benannt<QLineEdit>(QStringLiteral("TextFeiertag"));
     v->addWidget(m_textFeiertag);
-    auto* farben = new QFormLayout;
-    m_farbfeld[2] = Farbfeld("PictureFeiertagSchrift");
-    m_farbfeld[3] = Farbfeld("PictureFeiertagBack");
-    farben->addRow(QStringLiteral("Textfarbe"), m_farbfeld[2]);
-    farben->addRow(QStringLiteral("Hintergrund"), m_farbfeld[3]);
-    v->addLayout(farben);
+    v->addLayout(Farbpaar(2, "PictureFeiertagSchrift", "PictureFeiertagBack"));
     auto* knoepfe = new QHBoxLayout;
-    auto* berechnen = new QPushButton(QStringLiteral("Feiertage berechnen"));
-    berechnen->setObjectName(QStringLiteral("CommandBerechnen"));
-    auto* optionen = new QPushButton(QStringLiteral("Optionen"));
-    optionen->setObjectName(QStringLiteral("CommandOptionen"));
+    auto* berechnen =
+        Benannt<QPushButton>(QStringLiteral("CommandBerechnen"), QStringLiteral("Feiertage berechnen"));
+    auto* optionen = Benannt<QPushButton>(QStringLiteral("CommandOptionen"), QStringLiteral("Optionen"));
     knoepfe->addWidget(berechnen);
     knoepfe->addWidget(optionen);
     v->addLayout(knoepfe);
-    auto* aktualisieren = new QPushButton(QStringLiteral("Aktualisieren"));
-    aktualisieren->setObjectName(QStringLiteral("CommandAktualisieren2"));
+    auto* aktualisieren =
+        Benannt<QPushButton>(QStringLiteral("CommandAktualisieren2"), QStringLiteral("Aktualisieren"));
     v->addWidget(aktualisieren);
     v->addStretch();
     return Seitenpanel(QStringLiteral("Frame1_7"), v);
@@ -388,26 +374,21 @@ QWidget* FrmMain::PanelKalender() {
     auto* g = new QGridLayout(typen);
     const char* namen[] = {"", "Halbjahr", "Jahr A5", "Tasche", "Monat 1", "Monat 2", "Woche", "Planer"};
     for (int t = 1; t <= 7; ++t) {
-        m_typ[t] = new QPushButton(QString::fromUtf8(namen[t]));
-        m_typ[t]->setObjectName(QStringLiteral("CommandTyp_%1").arg(t));
+        m_typ[t] = Benannt<QPushButton>(QStringLiteral("CommandTyp_%1").arg(t), QString::fromUtf8(namen[t]));
         g->addWidget(m_typ[t], (t - 1) / 2, (t - 1) % 2);
     }
     v->addWidget(typen);
     auto* f = new QFormLayout;
-    m_comboJahr = new QComboBox;
-    m_comboJahr->setObjectName(QStringLiteral("ComboJahr"));
+    m_comboJahr = Benannt<QComboBox>(QStringLiteral("ComboJahr"));
     m_comboJahr->setEditable(true);
     m_comboJahr->setInsertPolicy(QComboBox::NoInsert);
     f->addRow(QStringLiteral("&Jahr"), m_comboJahr);
-    m_comboVariante = new QComboBox;
-    m_comboVariante->setObjectName(QStringLiteral("ComboVariante"));
+    m_comboVariante = Benannt<QComboBox>(QStringLiteral("ComboVariante"));
     f->addRow(QStringLiteral("&Variante"), m_comboVariante);
     auto* seite = new QHBoxLayout;
-    m_textSeite = new QLineEdit;
-    m_textSeite->setObjectName(QStringLiteral("TextSeite"));
+    m_textSeite = Benannt<QLineEdit>(QStringLiteral("TextSeite"));
     m_textSeite->setMaximumWidth(40);
-    m_upDownSeite = new QSpinBox;
-    m_upDownSeite->setObjectName(QStringLiteral("UpDownSeite"));
+    m_upDownSeite = Benannt<QSpinBox>(QStringLiteral("UpDownSeite"));
     m_upDownSeite->setRange(1, 2);
     m_upDownSeite->setButtonSymbols(QAbstractSpinBox::UpDownArrows);
     m_upDownSeite->setMaximumWidth(22);
@@ -416,15 +397,13 @@ QWidget* FrmMain::PanelKalender() {
     seite->addWidget(m_upDownSeite);
     seite->addStretch();
     f->addRow(QStringLiteral("Seite"), seite);
-    m_textTitel = new QLineEdit;
-    m_textTitel->setObjectName(QStringLiteral("TextTitel"));
+    m_textTitel = Benannt<QLineEdit>(QStringLiteral("TextTitel"));
     f->addRow(QStringLiteral("&Titel"), m_textTitel);
-    m_textUnterschrift = new QLineEdit;
-    m_textUnterschrift->setObjectName(QStringLiteral("TextUnterschrift"));
+    m_textUnterschrift = Benannt<QLineEdit>(QStringLiteral("TextUnterschrift"));
     f->addRow(QStringLiteral("&Unterschrift"), m_textUnterschrift);
     v->addLayout(f);
-    auto* standard = new QPushButton(QStringLiteral("Standarddesign"));
-    standard->setObjectName(QStringLiteral("CommandStandard"));
+    auto* standard =
+        Benannt<QPushButton>(QStringLiteral("CommandStandard"), QStringLiteral("Standarddesign"));
     v->addWidget(standard);
     v->addStretch();
     return Seitenpanel(QStringLiteral("Frame1_8"), v);
@@ -432,23 +411,18 @@ QWidget* FrmMain::PanelKalender() {
 
 QWidget* FrmMain::PanelMonatsbilder() {
     auto* f = new QFormLayout;
-    m_comboMonat = new QComboBox;
-    m_comboMonat->setObjectName(QStringLiteral("ComboMonat"));
+    m_comboMonat = Benannt<QComboBox>(QStringLiteral("ComboMonat"));
     f->addRow(QStringLiteral("&Monat"), m_comboMonat);
     auto* datei = new QHBoxLayout;
-    m_textbilddatei = new QLineEdit;
-    m_textbilddatei->setObjectName(QStringLiteral("Textbilddatei"));
-    auto* durchsuchen = new QPushButton(QStringLiteral("..."));
-    durchsuchen->setObjectName(QStringLiteral("CommandDurchsuchen"));
+    m_textbilddatei = Benannt<QLineEdit>(QStringLiteral("Textbilddatei"));
+    auto* durchsuchen = Benannt<QPushButton>(QStringLiteral("CommandDurchsuchen"), QStringLiteral("..."));
     durchsuchen->setMaximumWidth(30);
     datei->addWidget(m_textbilddatei);
     datei->addWidget(durchsuchen);
     f->addRow(QStringLiteral("&Bild"), datei);
-    m_textBildbeschreibung = new QLineEdit;
-    m_textBildbeschreibung->setObjectName(QStringLiteral("TextBildbeschreibung"));
+    m_textBildbeschreibung = Benannt<QLineEdit>(QStringLiteral("TextBildbeschreibung"));
     f->addRow(QStringLiteral("Bes&chreibung"), m_textBildbeschreibung);
-    m_leadKalender = new QLabel;
-    m_leadKalender->setObjectName(QStringLiteral("LeadKalender"));
+    m_leadKalender = Benannt<QLabel>(QStringLiteral("LeadKalender"));
     m_leadKalender->setFixedSize(200, 150);
     m_leadKalender->setAlignment(Qt::AlignCenter);
     m_leadKalender->hide();
@@ -457,8 +431,7 @@ QWidget* FrmMain::PanelMonatsbilder() {
 }
 
 void FrmMain::PanelsAnlegen() {
-    m_frame1 = new QStackedWidget;
-    m_frame1->setObjectName(QStringLiteral("Frame1"));
+    m_frame1 = Benannt<QStackedWidget>(QStringLiteral("Frame1"));
     m_frame1->setMinimumWidth(270);
     m_panels = {{1, PanelTexte()},   {3, PanelLayouts()},   {4, PanelDatensatz()}, {5, PanelGalerie()},
                 {6, PanelTermine()}, {7, PanelFeiertage()}, {8, PanelKalender()},  {9, PanelMonatsbilder()}};
@@ -466,8 +439,7 @@ void FrmMain::PanelsAnlegen() {
         m_frame1->addWidget(w);
 
     m_seite = new Seitenansicht;
-    auto* teiler = new QSplitter;
-    teiler->setObjectName(QStringLiteral("Frame2"));
+    auto* teiler = Benannt<QSplitter>(QStringLiteral("Frame2"));
     teiler->addWidget(m_frame1);
     teiler->addWidget(m_seite);
     teiler->setStretchFactor(1, 1);
@@ -477,8 +449,7 @@ void FrmMain::PanelsAnlegen() {
 
     statusBar()->setObjectName(QStringLiteral("StatusBar"));
     for (int i = 0; i < 3; ++i) {
-        m_status[i] = new QLabel;
-        m_status[i]->setObjectName(QStringLiteral("StatusBar_%1").arg(i + 1));
+        m_status[i] = Benannt<QLabel>(QStringLiteral("StatusBar_%1").arg(i + 1));
         statusBar()->addPermanentWidget(m_status[i], i == 0 ? 1 : 0);
     }
     m_status[0]->setText(QStringLiteral("Aktuelle Datei: "));
