@@ -47,6 +47,23 @@ void Spiegelpunkt(const AppState& s, const ClassRahmen& T, ClassRahmen& A, bool 
     if (y) A.Y = s.AktuelleSeite.Höhe - T.Y - A.Höhe;
 }
 
+// Tasche: the first day cell of month m. January to June stand in the upper band, July to
+// December in the lower one; the cell moves down to the month's first weekday. Returns that
+// weekday offset.
+int TascheMonatsanfang(const AppState& s, const ClassRahmen& T, ClassRahmen& A, int jahr, int m, double H) {
+    if (m < 7) {
+        A.Y = T.Y;
+        A.X = (m - 1) * s.Spaltenabstand + T.X;
+    } else {
+        A.Y = T.Y + s.Zeilenabstand;
+        A.X = (m - 7) * s.Spaltenabstand + T.X;
+    }
+    if (m == 7) A.X = T.X;
+    const int t = ErsterTagVersatz(jahr, m, 0);
+    A.Y += H * t;
+    return t;
+}
+
 int Startmonat(const AppState& s, int typ, int seite) {
     switch (typ) {
     case Halbjahr:
@@ -238,16 +255,7 @@ void KalenderRahmenLauf(AppState& s, KalenderZeichner& zeichner, int n) {
                 if (d == letzter) {
                     d = 0;
                     ++m;
-                    if (m < 7) {
-                        A.Y = T.Y;
-                        A.X = (m - 1) * s.Spaltenabstand + T.X;
-                    } else {
-                        A.Y = T.Y + s.Zeilenabstand;
-                        A.X = (m - 7) * s.Spaltenabstand + T.X;
-                    }
-                    if (m == 7) A.X = T.X;
-                    t = ErsterTagVersatz(jahr, m, d);
-                    A.Y += H * t;
+                    t = TascheMonatsanfang(s, T, A, jahr, m, H);
                 }
             } else
                 return;
@@ -574,16 +582,7 @@ void KalenderTextLauf(AppState& s, KalenderZeichner& zeichner, int n) {
                     if (d == 31) {
                         d = 0;
                         ++m;
-                        if (m < 7) {
-                            A.Y = T.Y;
-                            A.X = (m - 1) * s.Spaltenabstand + T.X;
-                        } else {
-                            A.Y = T.Y + s.Zeilenabstand;
-                            A.X = (m - 7) * s.Spaltenabstand + T.X;
-                        }
-                        if (m == 7) A.X = T.X;
-                        t = ErsterTagVersatz(jahr, m, d);
-                        A.Y += H * t;
+                        t = TascheMonatsanfang(s, T, A, jahr, m, H);
                     }
                 }
             } else
