@@ -26,6 +26,16 @@ QString Endung(const QString& name) {
     return name.right(3);
 }
 
+// Loads the design while the controls' change handlers stand still, then brings the panel and
+// the selection up to date at once.
+void LadeDesignInsFenster(AppState& s, Oberflaeche& ui, const Dokumentdienste& d) {
+    s.LadeSperre = 255;
+    DienstAusfuehren(d.LoadDesign, s, ui);
+    s.LadeSperre = 0;
+    ui.PanelAktualisieren();
+    ui.AuswahlAktualisieren();
+}
+
 } // namespace
 
 QString Dateifilter(const AppState& s, Dateidialog art) {
@@ -79,11 +89,7 @@ bool BefehlNeu(AppState& s, Oberflaeche& ui, const Dokumentdienste& d) {
     if (!ui.Frage(QStringLiteral("Sollen die aktuellen Daten gelöscht werden?"), QStringLiteral("Neu")))
         return false;
     s.Ladevorgabe = QStringLiteral("neu");
-    s.LadeSperre = 255;
-    DienstAusfuehren(d.LoadDesign, s, ui);
-    s.LadeSperre = 0;
-    ui.PanelAktualisieren();
-    ui.AuswahlAktualisieren();
+    LadeDesignInsFenster(s, ui, d);
     ui.Neuzeichnen();
     return true;
 }
@@ -177,11 +183,7 @@ void GalerieLaden(AppState& s, Oberflaeche& ui, const Dokumentdienste& d, int ze
     s.AktuelleDatei =
         s.Programmpfad + QStringLiteral("daten/design") + QString::number(zeile + 1) + QStringLiteral(".zpv");
     if (QFileInfo::exists(s.AktuelleDatei)) {
-        s.LadeSperre = 255;
-        DienstAusfuehren(d.LoadDesign, s, ui);
-        s.LadeSperre = 0;
-        ui.PanelAktualisieren();
-        ui.AuswahlAktualisieren();
+        LadeDesignInsFenster(s, ui, d);
     }
     ui.Neuzeichnen();
     s.AktuelleDatei = gemerkt;
