@@ -5,6 +5,7 @@
 #include "core/runtime/Basic.h"
 #include "core/runtime/TextDatei.h"
 #include "model/Objekte.h"
+#include "persist/Rahmensatz.h"
 
 #include <cmath>
 #include <limits>
@@ -19,25 +20,6 @@ const QString Kennung = QStringLiteral("ZP Datenfile");
 constexpr double Dateiversion = 800;
 
 // ---- Writing ------------------------------------------------------------------------------
-
-// Frame positions and sizes are written cut down to whole tenths of a millimetre.
-void SchreibeGekappt(ZeilenSchreiber& w, double v) {
-    w.WriteDouble(std::floor(v));
-}
-
-void SchreibeRahmen(ZeilenSchreiber& w, const ClassRahmen& r) {
-    SchreibeGekappt(w, r.Breite);
-    SchreibeGekappt(w, r.Höhe);
-    w.WriteDouble(r.Objektnummer);
-    w.WriteLine(r.Objekttyp);
-    w.WriteBool(r.Sichtbar != 0);
-    w.WriteLine(r.Proportional);
-    w.WriteLine(r.Verankert);
-    SchreibeGekappt(w, r.X);
-    SchreibeGekappt(w, r.Y);
-    w.WriteLine(r.z);
-    w.WriteLine(r.bilddaten);
-}
 
 void SchreibeSchrift(ZeilenSchreiber& w, const ClassSchrift& t) {
     w.WriteLine(t.Angle);
@@ -174,22 +156,6 @@ QString PruefeSchrift(AppState& s, const QString& name) {
     return QStringLiteral("Arial");
 }
 
-ClassRahmen LeseRahmen(ZeilenLeser& r, double version) {
-    ClassRahmen f;
-    f.Breite = r.LeseDouble();
-    f.Höhe = r.LeseDouble();
-    f.Objektnummer = r.LeseDouble();
-    f.Objekttyp = r.ReadLine();
-    f.Sichtbar = r.LeseBool();
-    f.Proportional = r.LeseInt16();
-    f.Verankert = r.LeseInt16();
-    f.X = r.LeseDouble();
-    f.Y = r.LeseDouble();
-    f.z = r.LeseInt16();
-    if (version > 799) f.bilddaten = r.LeseInt16();
-    return f;
-}
-
 ClassSchrift LeseSchrift(ZeilenLeser& r, AppState& s, int i) {
     ClassSchrift t;
     t.Angle = r.LeseInt16();
@@ -324,7 +290,7 @@ Designinhalt ParseDesign(AppState& s, const QByteArray& bytes) {
     r.ReadLine(); // "Rahmen"; section titles are not checked
     const int rahmen = r.LeseAnzahl(d.version > 799 ? 11 : 10);
     for (int i = 1; i <= rahmen; ++i)
-        d.rahmen.push_back(LeseRahmen(r, d.version));
+        d.rahmen.push_back(LeseRahmensatz(r, d.version));
 
     r.ReadLine(); // "Schrift"
     const int schriften = r.LeseAnzahl(27);
@@ -452,7 +418,7 @@ QByteArray SchreibeDesign(const AppState& s) {
     w.WriteLine(QStringLiteral("Rahmen"));
     w.WriteDouble(s.RahmenAnzahl);
     for (int i = 1; i <= rahmen; ++i)
-        SchreibeRahmen(w, s.Rahmenliste(i));
+        SchreibeRahmensatz(w, s.Rahmenliste(i), Dateiversion);
 
     w.WriteLine(QStringLiteral("Schrift"));
     w.WriteDouble(s.SchriftMax);

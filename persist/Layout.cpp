@@ -5,6 +5,7 @@
 #include "core/runtime/Basic.h"
 #include "core/runtime/TextDatei.h"
 #include "persist/Dateimeldungen.h"
+#include "persist/Rahmensatz.h"
 
 #include <QFileInfo>
 
@@ -15,7 +16,9 @@ namespace zp {
 namespace {
 
 const QString Kopf = QStringLiteral("ZP Datenfile");
-constexpr int RahmenZeilen = 10; // a layout's frame record has no picture-data line
+// A layout's frame record has no picture-data line: the ten lines of version 700.
+constexpr double Satzversion = 700;
+constexpr int RahmenZeilen = 10;
 constexpr int SchriftZeilen = 27;
 
 struct Anpassung {
@@ -79,22 +82,12 @@ LayoutLesung WendeLayoutAn(AppState& s, const QByteArray& bytes, const QString& 
 
     const int rahmenAnzahl = in.LeseAnzahl(RahmenZeilen);
     for (int n = 1; n <= rahmenAnzahl; ++n) {
-        ClassRahmen r;
-        const double breite = in.LeseDouble();
-        r.Höhe = in.LeseDouble();
-        r.Objektnummer = in.LeseDouble();
-        r.Objekttyp = in.ReadLine();
-        r.Sichtbar = in.LeseBool();
-        r.Proportional = in.LeseInt16();
-        r.Verankert = in.LeseInt16();
-        r.X = in.LeseDouble();
-        r.Y = in.LeseDouble();
-        r.z = in.LeseInt16();
+        const ClassRahmen r = LeseRahmensatz(in, Satzversion);
         // Outside the card editions the frames from 21 on aren't the layout's to move.
         if (!karte && n >= 21) continue;
         if (n > rahmenImDokument) continue; // a layout arranges frames, it doesn't make them
         ClassRahmen& ziel = rahmen(n);
-        ziel.Breite = RahmenBreite(a, n, breite, ziel.Breite);
+        ziel.Breite = RahmenBreite(a, n, r.Breite, ziel.Breite);
         ziel.Höhe = r.Höhe;
         ziel.Objektnummer = r.Objektnummer;
         ziel.Objekttyp = r.Objekttyp;
@@ -171,7 +164,7 @@ QByteArray SchreibeLayout(const AppState& s) {
     ZeilenSchreiber out;
     out.WriteLine(Kopf);
     out.WriteLine(s.Programmname);
-    out.WriteLine(QStringLiteral("700")); // the old frame record without the picture-data line
+    out.WriteLine(QString::number(Satzversion)); // the old frame record without the picture-data line
     out.WriteLine(QString::number(s.Kalendertyp));
     out.WriteLine(QStringLiteral("Vorlage")); // a shipped template, never the user's document
     for (int i = 6; i <= 9; ++i)
@@ -181,17 +174,7 @@ QByteArray SchreibeLayout(const AppState& s) {
     out.WriteLine(QStringLiteral("Rahmen"));
     out.WriteLine(rahmenAnzahl);
     for (int n = 1; n <= rahmenAnzahl; ++n) {
-        const ClassRahmen& r = s.Rahmenliste(n);
-        out.WriteDouble(Abgeschnitten(r.Breite));
-        out.WriteDouble(Abgeschnitten(r.Höhe));
-        out.WriteDouble(r.Objektnummer);
-        out.WriteLine(r.Objekttyp);
-        out.WriteBool(r.Sichtbar != 0);
-        out.WriteLine(r.Proportional);
-        out.WriteLine(r.Verankert);
-        out.WriteDouble(Abgeschnitten(r.X));
-        out.WriteDouble(Abgeschnitten(r.Y));
-        out.WriteLine(r.z);
+        SchreibeRahmensatz(out, s.Rahmenliste(n), Satzversion);
     }
 
     const int schriftAnzahl = std::min(static_cast<int>(s.SchriftMax), s.Schriftliste.Obergrenze());
