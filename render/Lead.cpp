@@ -9,7 +9,6 @@
 #undef Intensity
 
 #include <QBuffer>
-#include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QLocale>
@@ -120,11 +119,10 @@ bool Lead::HatBild() const {
 }
 
 void Lead::Load(const QString& datei) {
-    QFile f(datei);
-    if (!f.open(QIODevice::ReadOnly))
+    const std::optional<QByteArray> gelesen = LeseDatei(datei);
+    if (!gelesen)
         throw LeadFehler(QStringLiteral("Die Bilddatei \"%1\" kann nicht gelesen werden.").arg(datei));
-    const QByteArray bytes = f.readAll();
-    f.close();
+    const QByteArray& bytes = *gelesen;
     if (bytes.isEmpty()) throw LeadFehler(QStringLiteral("Die Bilddatei \"%1\" ist leer.").arg(datei));
 
     const Magick::Blob blob(bytes.constData(), static_cast<size_t>(bytes.size()));
