@@ -55,117 +55,18 @@ struct Entwurf {
     int spalten = 30;
 
     QByteArray Bytes() const {
-        QStringList z = {
-            "ZP Datenfile", "ZP Visitenkarte", QString::number(version), zeile4, zeile5, "Reserve", "Reserve",
-            "Reserve",      "Reserve"};
-        z << "Rahmen"
-          << "1"
-          << "500,9"
-          << "200"
-          << "1"
-          << "Schrift"
-          << "-1"
-          << "0"
-          << "0"
-          << "10,5"
-          << "-0,5"
-          << "1";
+        auto zeilen = [](const char* z) { return QString::fromUtf8(z).split(u'|'); };
+        QStringList z = {"ZP Datenfile", "ZP Visitenkarte", QString::number(version), zeile4, zeile5};
+        z << zeilen("Reserve|Reserve|Reserve|Reserve|Rahmen|1|500,9|200|1|Schrift|-1|0|0|10,5|-0,5|1");
         if (version > 799) z << "0";
-        z << "Schrift"
-          << "1";
-        z << "15"
-          << "1"
-          << "2"
-          << "-1"
-          << "3"
-          << "255"
-          << "65280"
-          << "4"
-          << "1" << fontname << "12,5"
-          << "7,9"
-          << "0"
-          << "45"
-          << "12632256"
-          << "0"
-          << "5"
-          << "1"
-          << "2"
-          << "0";
-        z << text;
-        z << top << "-1"
-          << "99,5"
-          << "-3,5"
-          << "1"
-          << "-1";
-        z << "Bild"
-          << "1";
-        z << "0"
-          << "1"
-          << "2"
-          << "3"
-          << "4"
-          << "5"
-          << "bild.jpg"
-          << ""
-          << "bild.jpg"
-          << "/x/"
-          << "-1"
-          << "6"
-          << "0"
-          << "7"
-          << "90"
-          << "8";
+        z << zeilen("Schrift|1|15|1|2|-1|3|255|65280|4|1") << fontname;
+        z << zeilen("12,5|7,9|0|45|12632256|0|5|1|2|0") << text;
+        z << top << zeilen("-1|99,5|-3,5|1|-1|Bild|1|0|1|2|3|4|5|bild.jpg||bild.jpg|/x/|-1|6|0|7|90|8");
         if (version > 799) z << "1";
-        z << "Linie"
-          << "1";
-        z << "30"
-          << "255"
-          << "0"
-          << "0"
-          << "16"
-          << "-1"
-          << "12,5"
-          << "45"
-          << "0"
-          << "0"
-          << "0"
-          << "0"
-          << "0"
-          << "2"
-          << "13,5"
-          << "1"
-          << "2";
-        z << "RTF"
-          << "1"
-          << "RTF1.rtf";
+        z << zeilen("Linie|1|30|255|0|0|16|-1|12,5|45|0|0|0|0|0|2|13,5|1|2|RTF|1|RTF1.rtf");
         if (version > 700) {
-            z << "back.jpg"
-              << "3"
-              << "90"
-              << "0"
-              << "0"
-              << "16777215"
-              << "255"
-              << "2"
-              << "1"
-              << "maske.bmp"
-              << "4"
-              << "0";
-            z << "10"
-              << "20"
-              << "2"
-              << "5"
-              << "850"
-              << "540"
-              << "1"
-              << "2"
-              << "200"
-              << "135"
-              << "3"
-              << "4"
-              << "6"
-              << "-1"
-              << "0";
+            z << zeilen("back.jpg|3|90|0|0|16777215|255|2|1|maske.bmp|4|0");
+            z << zeilen("10|20|2|5|850|540|1|2|200|135|3|4|6|-1|0");
         }
         if (datensaetze >= 0) {
             z << QString::number(datensaetze);
@@ -499,7 +400,8 @@ TEST(SaveDesign, ShippedDesignsComeBackByteForByte) {
             for (qsizetype i = erwartet.size() - 16; i < erwartet.size() - 1; ++i)
                 erwartet[i] = geschrieben[i];
         }
-        EXPECT_EQ(Unterschied(BytesAusZeilen(geschrieben), BytesAusZeilen(erwartet)), "") << pfad.toStdString();
+        EXPECT_EQ(Unterschied(BytesAusZeilen(geschrieben), BytesAusZeilen(erwartet)), "")
+            << pfad.toStdString();
         ++dateien;
     }
     EXPECT_GE(dateien, 1);
