@@ -13,6 +13,19 @@
 
 namespace zp::test {
 
+// A message or question the run put to the user.
+struct Mitschrift : Oberflaeche {
+    std::vector<std::pair<QString, QString>> Meldungen; // text, title
+    int Fragen = 0;
+    bool Frage(const QString&, const QString&) override {
+        ++Fragen;
+        return standardAntwort;
+    }
+    void Meldung(const QString& text, const QString& titel, const QString&) override {
+        Meldungen.emplace_back(text, titel);
+    }
+};
+
 struct Stueck {
     int Seite = 0;   // page of the request, 1-based
     QPoint Ursprung; // window origin after the composition's shift
@@ -54,6 +67,12 @@ public:
         return h;
     }
 
+    // One print run on this printer with the test composition; what it asks the user goes to `o`.
+    Druckergebnis Drucke(AppState& s, const Druckwahl& w = {}) {
+        return PrintDocument(s, o, *this, w, Hilfen());
+    }
+    Mitschrift o;
+
     // Druckausgabe
     Canvas& Leinwand() override { return *this; }
     bool Oeffne() override {
@@ -83,19 +102,6 @@ private:
     bool m_datei;
     int m_versatz;
     int m_seiten = 0;
-};
-
-// A message or question the run put to the user.
-struct Mitschrift : Oberflaeche {
-    std::vector<std::pair<QString, QString>> Meldungen; // text, title
-    int Fragen = 0;
-    bool Frage(const QString&, const QString&) override {
-        ++Fragen;
-        return standardAntwort;
-    }
-    void Meldung(const QString& text, const QString& titel, const QString&) override {
-        Meldungen.emplace_back(text, titel);
-    }
 };
 
 } // namespace zp::test
