@@ -13,6 +13,23 @@
 
 namespace zp::test {
 
+// A 3 x 8 sheet of 66 x 33.8 mm labels on A4, 7.2 mm from the left and 13 mm from the top.
+inline AppState Etikettenbogen(bool visitenkarte = false) {
+    AppState s;
+    (visitenkarte ? s.IstVisitenkarte : s.IstEtikett) = -1;
+    s.AktuelleSeite.Breite = 2100;
+    s.AktuelleSeite.Höhe = 2970;
+    s.AktuelleSeite.Randlinks = 72;
+    s.AktuelleSeite.Randoben = 130;
+    s.AktuellesEtikett.Breite = 660;
+    s.AktuellesEtikett.Höhe = 338;
+    s.AktuellesEtikett.Abstand_x = 25;
+    s.AktuellesEtikett.Abstand_y = 0;
+    s.AktuellesEtikett.Anzahl_x = 3;
+    s.AktuellesEtikett.Anzahl_y = 8;
+    return s;
+}
+
 // A message or question the run put to the user.
 struct Mitschrift : Oberflaeche {
     std::vector<std::pair<QString, QString>> Meldungen; // text, title

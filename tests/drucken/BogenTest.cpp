@@ -17,21 +17,6 @@ int Px(double laenge) {
     return static_cast<int>(std::trunc(laenge * 5.67 / kTpp));
 }
 
-// A 3 x 8 sheet of 66 x 33.8 mm labels, 7.2 mm from the left and 13 mm from the top.
-AppState Etikettenbogen(bool visitenkarte = false) {
-    AppState s;
-    (visitenkarte ? s.IstVisitenkarte : s.IstEtikett) = -1;
-    s.AktuelleSeite.Randlinks = 72;
-    s.AktuelleSeite.Randoben = 130;
-    s.AktuellesEtikett.Breite = 660;
-    s.AktuellesEtikett.Höhe = 338;
-    s.AktuellesEtikett.Abstand_x = 25;
-    s.AktuellesEtikett.Abstand_y = 0;
-    s.AktuellesEtikett.Anzahl_x = 3;
-    s.AktuellesEtikett.Anzahl_y = 8;
-    return s;
-}
-
 // Addresses with a name in field 1 and a category in field 10.
 void Adressen(AppState& s, std::initializer_list<const char*> kategorien) {
     int n = 0;
