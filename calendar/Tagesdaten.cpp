@@ -75,14 +75,17 @@ void TagesdatenLeeren(AppState& s) {
 bool KalenderdatenNeu(AppState& s, Oberflaeche& ui) {
     if (!ui.Frage(QStringLiteral("Sollen die aktuellen Daten gelöscht werden?"), QStringLiteral("Neu")))
         return false;
+    // A new calendar keeps its month pictures and their captions: only the day data go.
+    const Liste<QString> bilder = s.Monatsbilder;
+    const Liste<QString> bildtexte = s.Monatsbildtexte;
     TagesdatenLeeren(s);
+    s.Monatsbilder = bilder;
+    s.Monatsbildtexte = bildtexte;
     Seitenleiste& p = s.Panel;
     p.TextTitel.clear();
     p.TextUnterschrift.clear();
     p.TextTermin.clear();
     p.TextFeiertag.clear();
-    p.Textbilddatei.clear();
-    p.TextBildbeschreibung.clear();
     p.PictureTextfarbe = p.PictureHintergrundfarbe = kWeiss;
     p.PictureFeiertagSchrift = p.PictureFeiertagBack = kWeiss;
     s.Datendatei = s.Programmpfad + QStringLiteral("neu.zpd");

@@ -134,7 +134,7 @@ TEST(Monatsbilder, SlotsCaptionsAndTheJanuaryRedraw) {
     EXPECT_EQ(s.Panel.TextBildbeschreibung, u"Krokusse");
 }
 
-TEST(Neu, AsksAndClearsEverything) {
+TEST(Neu, AsksAndClearsTheDayData) {
     AppState s = ImJahr(2025);
     s.Programmpfad = QStringLiteral("/tmp/zp/");
     s.Termine(1, 1) = QStringLiteral("x");
@@ -147,7 +147,7 @@ TEST(Neu, AsksAndClearsEverything) {
     ui.standardAntwort = true;
     EXPECT_TRUE(KalenderdatenNeu(s, ui));
     EXPECT_TRUE(s.Termine(1, 1).isEmpty());
-    EXPECT_TRUE(s.Monatsbilder(5).isEmpty());
+    EXPECT_EQ(s.Monatsbilder(5), u"b.jpg"); // the month pictures stay
     EXPECT_TRUE(s.Panel.TextTitel.isEmpty());
     EXPECT_EQ(s.Datendatei, u"/tmp/zp/neu.zpd");
 }
