@@ -1,4 +1,4 @@
-#include "ProtokollOberflaeche.h"
+#include "common/ProtokollOberflaeche.h"
 
 #include "common/TestHilfe.h"
 #include "core/AppState.h"

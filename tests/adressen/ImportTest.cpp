@@ -1,4 +1,4 @@
-#include "ProtokollOberflaeche.h"
+#include "common/ProtokollOberflaeche.h"
 
 #include "common/TestHilfe.h"
 #include "core/AppState.h"
@@ -149,4 +149,3 @@ TEST(Importieren, OldLabelFileBringsItsTexts) {
     EXPECT_EQ(s.DatensatzAnzahl, 2);
     EXPECT_EQ(s.Datensaetze(1, 1), u"Anna");
 }
-

@@ -1,4 +1,4 @@
-#include "ProtokollOberflaeche.h"
+#include "common/ProtokollOberflaeche.h"
 
 #include "core/AppState.h"
 #include "core/Datensatzbefehle.h"

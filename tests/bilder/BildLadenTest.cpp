@@ -1,6 +1,7 @@
 // BildLaden: the order of the corrections, the print-time memo, the cache and bad files.
 #include "render/BildLaden.h"
 #include "Bildhilfe.h"
+#include "common/ProtokollOberflaeche.h"
 #include "core/AppState.h"
 #include "core/Oberflaeche.h"
 #include "render/Bildwerk.h"
@@ -14,19 +15,11 @@ using namespace zp::test;
 
 namespace {
 
-struct Meldungsfaenger : Oberflaeche {
-    QStringList texte, titel;
-    void Meldung(const QString& text, const QString& t, const QString&) override {
-        texte << text;
-        titel << t;
-    }
-};
-
 class BildLadenTest : public ::testing::Test {
 protected:
     QTemporaryDir tmp;
     AppState s;
-    Meldungsfaenger ui;
+    ProtokollOberflaeche ui;
     QString datei, zweite;
     Lead& lead() { return BildwerkVon(s).Lead; }
 
@@ -57,36 +50,26 @@ TEST_F(BildLadenTest, AppliesTheCorrectionsInTheirFixedOrder) {
     b.Gray = -1;
     BildLaden(s, b, lead());
 
-    Lead hand;
-    hand.Load(datei);
-    hand.Rotate(9000, true, 0xFFFFFFFF);
-    hand.Intensity(150);
-    hand.Contrast(300);
-    hand.Saturation(-400);
-    hand.Hue(40);
-    hand.Sharpen(200);
-    hand.AddNoise(50, 0);
-    hand.Mosaic(4);
-    hand.Shear(10, true, 0xFFFFFFFF);
-    hand.Invert();
-    hand.Grayscale();
-    EXPECT_EQ(lead().Bitmap(), hand.Bitmap());
-
-    // The order matters: contrast before brightness gives another picture.
-    Lead anders;
-    anders.Load(datei);
-    anders.Rotate(9000, true, 0xFFFFFFFF);
-    anders.Contrast(300);
-    anders.Intensity(150);
-    anders.Saturation(-400);
-    anders.Hue(40);
-    anders.Sharpen(200);
-    anders.AddNoise(50, 0);
-    anders.Mosaic(4);
-    anders.Shear(10, true, 0xFFFFFFFF);
-    anders.Invert();
-    anders.Grayscale();
-    EXPECT_NE(lead().Bitmap(), anders.Bitmap());
+    // The same steps by hand; the order matters: contrast before brightness gives another picture.
+    auto vonHand = [&](bool kontrastZuerst) {
+        Lead hand;
+        hand.Load(datei);
+        hand.Rotate(9000, true, 0xFFFFFFFF);
+        if (kontrastZuerst) hand.Contrast(300);
+        hand.Intensity(150);
+        if (!kontrastZuerst) hand.Contrast(300);
+        hand.Saturation(-400);
+        hand.Hue(40);
+        hand.Sharpen(200);
+        hand.AddNoise(50, 0);
+        hand.Mosaic(4);
+        hand.Shear(10, true, 0xFFFFFFFF);
+        hand.Invert();
+        hand.Grayscale();
+        return hand.Bitmap();
+    };
+    EXPECT_EQ(lead().Bitmap(), vonHand(false));
+    EXPECT_NE(lead().Bitmap(), vonHand(true));
     EXPECT_EQ(s.LetztesBild, datei);
 }
 
@@ -144,7 +127,7 @@ TEST_F(BildLadenTest, MissingOrEmptyNameLeavesTheControl) {
         EXPECT_EQ(lead().Bitmap(), vorher);
         EXPECT_EQ(s.LetztesBild, name);
     }
-    EXPECT_TRUE(ui.texte.isEmpty());
+    EXPECT_TRUE(ui.meldungen.isEmpty());
 }
 
 TEST_F(BildLadenTest, CorruptFileIsReportedOnceAndTheFormerBitmapStays) {
@@ -158,15 +141,15 @@ TEST_F(BildLadenTest, CorruptFileIsReportedOnceAndTheFormerBitmapStays) {
     f.close();
     ClassBild kaputt = Bild(f.fileName());
     BildLaden(s, kaputt, lead());
-    ASSERT_EQ(ui.texte.size(), 1);
-    EXPECT_TRUE(ui.texte[0].contains("kaputt.jpg"));
-    EXPECT_EQ(ui.titel[0], "Hinweis");
+    ASSERT_EQ(ui.meldungen.size(), 1);
+    EXPECT_TRUE(ui.meldungen[0].contains("kaputt.jpg"));
+    EXPECT_EQ(ui.titel_, "Hinweis");
     EXPECT_EQ(lead().Bitmap(), vorher);
     EXPECT_EQ(s.LetztesBild, f.fileName());
 
     // The next redraw does not repeat the message for the same file.
     BildLaden(s, kaputt, lead());
-    EXPECT_EQ(ui.texte.size(), 1);
+    EXPECT_EQ(ui.meldungen.size(), 1);
 }
 
 TEST_F(BildLadenTest, CacheGivesTheSameBitmapAndNoticesAChangedFile) {

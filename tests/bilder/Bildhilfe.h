@@ -34,31 +34,26 @@ inline QString Speichere(const QImage& bild, const QDir& ordner, const QString& 
     return pfad;
 }
 
-inline double MittlereHelligkeit(const QImage& q) {
+// The mean of `wert` over every pixel.
+template <typename F> double Mittel(const QImage& q, F wert) {
     double summe = 0;
     for (int y = 0; y < q.height(); ++y)
         for (int x = 0; x < q.width(); ++x)
-            summe += qGray(q.pixel(x, y));
+            summe += wert(q.pixel(x, y));
     return summe / (q.width() * q.height());
+}
+
+inline double MittlereHelligkeit(const QImage& q) {
+    return Mittel(q, [](QRgb p) { return qGray(p); });
 }
 
 inline double Streuung(const QImage& q) {
     const double m = MittlereHelligkeit(q);
-    double summe = 0;
-    for (int y = 0; y < q.height(); ++y)
-        for (int x = 0; x < q.width(); ++x) {
-            const double d = qGray(q.pixel(x, y)) - m;
-            summe += d * d;
-        }
-    return std::sqrt(summe / (q.width() * q.height()));
+    return std::sqrt(Mittel(q, [m](QRgb p) { return (qGray(p) - m) * (qGray(p) - m); }));
 }
 
 inline double MittlereSaettigung(const QImage& q) {
-    double summe = 0;
-    for (int y = 0; y < q.height(); ++y)
-        for (int x = 0; x < q.width(); ++x)
-            summe += QColor(q.pixel(x, y)).hslSaturation();
-    return summe / (q.width() * q.height());
+    return Mittel(q, [](QRgb p) { return QColor(p).hslSaturation(); });
 }
 
 // Sum of absolute differences between neighbours: grows with sharpness.

@@ -1,4 +1,5 @@
 #include "calendar/Kalenderdateien.h"
+#include "common/ProtokollOberflaeche.h"
 #include "core/AppState.h"
 #include "core/Oberflaeche.h"
 #include "core/runtime/TextDatei.h"
@@ -11,13 +12,6 @@
 using namespace zp;
 
 namespace {
-struct Melder : Oberflaeche {
-    QStringList meldungen, details;
-    void Meldung(const QString& text, const QString&, const QString& detail) override {
-        meldungen << text;
-        details << detail;
-    }
-};
 
 QByteArray KalDatei(const QByteArray& zeile31) {
     QByteArray b;
@@ -70,7 +64,7 @@ TEST(Zpd, BadFilesAreRefusedAndLeaveTheDocumentAlone) {
     AppState s;
     s.Termine(5, 5) = QStringLiteral("bleibt");
     s.Datendatei = dir.filePath(QStringLiteral("vorher.zpd"));
-    Melder ui;
+    test::ProtokollOberflaeche ui;
     const QByteArray gut = ZpdBytes(Kalenderdaten{});
     QList<QByteArray> schlecht;
     schlecht << gut.left(gut.size() / 2); // cut short
@@ -92,7 +86,7 @@ TEST(Zpd, BadFilesAreRefusedAndLeaveTheDocumentAlone) {
     }
     ASSERT_EQ(ui.meldungen.size(), schlecht.size());
     EXPECT_EQ(ui.meldungen[0], u"Falsches Datenformat");
-    EXPECT_TRUE(ui.details[1].contains(QStringLiteral("Zeile ")));
+    EXPECT_TRUE(ui.ganz[1].contains(QStringLiteral("Zeile ")));
     // A missing file is passed over silently.
     EXPECT_EQ(DatenOeffnen(s, ui, dir.filePath(QStringLiteral("fehlt.zpd"))), Ladeergebnis::Fehlt);
     EXPECT_EQ(ui.meldungen.size(), schlecht.size());
@@ -142,7 +136,7 @@ TEST(Kal, BadFilesReportAndChangeNothing) {
     AppState s;
     s.Termine(1, 1) = QStringLiteral("alt");
     s.Datendatei = QStringLiteral("vorher.zpd");
-    Melder ui;
+    test::ProtokollOberflaeche ui;
     const QString pfad = dir.filePath(QStringLiteral("alt.kal"));
     ASSERT_TRUE(SchreibeDateiAtomar(pfad, KalDatei("01.01Neu|xx.05Kaputt|")));
     EXPECT_EQ(KalOeffnen(s, ui, pfad), Ladeergebnis::Fehler);

@@ -1,4 +1,5 @@
 #include "calendar/Tagesdaten.h"
+#include "common/ProtokollOberflaeche.h"
 #include "core/AppState.h"
 #include "core/Oberflaeche.h"
 
@@ -9,15 +10,6 @@
 using namespace zp;
 
 namespace {
-struct Fragender : Oberflaeche {
-    QStringList fragen, meldungen;
-    bool Frage(const QString& text, const QString&) override {
-        fragen << text;
-        return standardAntwort;
-    }
-    void Meldung(const QString& text, const QString&, const QString&) override { meldungen << text; }
-};
-
 AppState ImJahr(int jahr) {
     AppState s;
     s.Kalenderjahr = jahr;
@@ -97,7 +89,7 @@ TEST(Jahreswechsel, AsksKeepsAppointmentsAndMovesTheViews) {
     s.FeiertagWahl(1) = 1;
     s.Termine(3, 3) = QStringLiteral("Geburtstag");
     s.Feiertage(5, 5) = QStringLiteral("alt");
-    Fragender ui;
+    test::ProtokollOberflaeche ui;
     ui.standardAntwort = false;
     ASSERT_TRUE(JahrGewaehlt(s, ui, 2005));
     EXPECT_EQ(ui.fragen, QStringList{QStringLiteral("Sollen die Feiertage neu berechnet werden?")});
@@ -148,7 +140,7 @@ TEST(Neu, AsksAndClearsTheDayData) {
     s.Termine(1, 1) = QStringLiteral("x");
     s.Monatsbilder(5) = QStringLiteral("b.jpg");
     s.Panel.TextTitel = QStringLiteral("T");
-    Fragender ui;
+    test::ProtokollOberflaeche ui;
     ui.standardAntwort = false;
     EXPECT_FALSE(KalenderdatenNeu(s, ui));
     EXPECT_EQ(s.Termine(1, 1), u"x");

@@ -13,6 +13,36 @@
 
 namespace zp::test {
 
+// A 3 x 8 sheet of 66 x 33.8 mm labels on A4, 7.2 mm from the left and 13 mm from the top.
+inline AppState Etikettenbogen(bool visitenkarte = false) {
+    AppState s;
+    (visitenkarte ? s.IstVisitenkarte : s.IstEtikett) = -1;
+    s.AktuelleSeite.Breite = 2100;
+    s.AktuelleSeite.Höhe = 2970;
+    s.AktuelleSeite.Randlinks = 72;
+    s.AktuelleSeite.Randoben = 130;
+    s.AktuellesEtikett.Breite = 660;
+    s.AktuellesEtikett.Höhe = 338;
+    s.AktuellesEtikett.Abstand_x = 25;
+    s.AktuellesEtikett.Abstand_y = 0;
+    s.AktuellesEtikett.Anzahl_x = 3;
+    s.AktuellesEtikett.Anzahl_y = 8;
+    return s;
+}
+
+// A message or question the run put to the user.
+struct Mitschrift : Oberflaeche {
+    std::vector<std::pair<QString, QString>> Meldungen; // text, title
+    int Fragen = 0;
+    bool Frage(const QString&, const QString&) override {
+        ++Fragen;
+        return standardAntwort;
+    }
+    void Meldung(const QString& text, const QString& titel, const QString&) override {
+        Meldungen.emplace_back(text, titel);
+    }
+};
+
 struct Stueck {
     int Seite = 0;   // page of the request, 1-based
     QPoint Ursprung; // window origin after the composition's shift
@@ -54,6 +84,12 @@ public:
         return h;
     }
 
+    // One print run on this printer with the test composition; what it asks the user goes to `o`.
+    Druckergebnis Drucke(AppState& s, const Druckwahl& w = {}) {
+        return PrintDocument(s, o, *this, w, Hilfen());
+    }
+    Mitschrift o;
+
     // Druckausgabe
     Canvas& Leinwand() override { return *this; }
     bool Oeffne() override {
@@ -83,19 +119,6 @@ private:
     bool m_datei;
     int m_versatz;
     int m_seiten = 0;
-};
-
-// A message or question the run put to the user.
-struct Mitschrift : Oberflaeche {
-    std::vector<std::pair<QString, QString>> Meldungen; // text, title
-    int Fragen = 0;
-    bool Frage(const QString&, const QString&) override {
-        ++Fragen;
-        return standardAntwort;
-    }
-    void Meldung(const QString& text, const QString& titel, const QString&) override {
-        Meldungen.emplace_back(text, titel);
-    }
 };
 
 } // namespace zp::test

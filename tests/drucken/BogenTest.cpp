@@ -5,6 +5,9 @@
 
 #include <cmath>
 
+// The print choices below name only the fields a case sets; the others keep their defaults.
+#pragma GCC diagnostic ignored "-Wmissing-field-initializers"
+
 namespace zp::test {
 namespace {
 
@@ -12,21 +15,6 @@ constexpr double kTpp = 2.4; // 600 dpi
 
 int Px(double laenge) {
     return static_cast<int>(std::trunc(laenge * 5.67 / kTpp));
-}
-
-// A 3 x 8 sheet of 66 x 33.8 mm labels, 7.2 mm from the left and 13 mm from the top.
-AppState Etikettenbogen(bool visitenkarte = false) {
-    AppState s;
-    (visitenkarte ? s.IstVisitenkarte : s.IstEtikett) = -1;
-    s.AktuelleSeite.Randlinks = 72;
-    s.AktuelleSeite.Randoben = 130;
-    s.AktuellesEtikett.Breite = 660;
-    s.AktuellesEtikett.Höhe = 338;
-    s.AktuellesEtikett.Abstand_x = 25;
-    s.AktuellesEtikett.Abstand_y = 0;
-    s.AktuellesEtikett.Anzahl_x = 3;
-    s.AktuellesEtikett.Anzahl_y = 8;
-    return s;
 }
 
 // Addresses with a name in field 1 and a category in field 10.
@@ -51,10 +39,7 @@ TEST(Bogen, ErstesEtikettFuenfLaesstEtikettenfrei) {
     AppState s = Etikettenbogen();
     s.ErstesEtikett = 5;
     Aufzeichnungsdrucker d;
-    Mitschrift o;
-    Druckwahl w;
-    w.Kopien = "24";
-    ASSERT_EQ(PrintDocument(s, o, d, w, d.Hilfen()), Druckergebnis::Gedruckt);
+    ASSERT_EQ(d.Drucke(s, {.Kopien = "24"}), Druckergebnis::Gedruckt);
 
     ASSERT_EQ(d.Stuecke.size(), 24u);
     // Positions 1 to 4 stay empty; the first label lands on row 2, column 2.
@@ -76,10 +61,7 @@ TEST(Bogen, VisitenkartenZaehlenUebersprungenePlaetzeOhneSieZuVerschieben) {
     AppState s = Etikettenbogen(true);
     s.ErstesEtikett = 5;
     Aufzeichnungsdrucker d;
-    Mitschrift o;
-    Druckwahl w;
-    w.Kopien = "2";
-    PrintDocument(s, o, d, w, d.Hilfen());
+    d.Drucke(s, {.Kopien = "2"});
     ASSERT_EQ(d.Stuecke.size(), 2u);
     // The skipped places don't move the origin: the first card is drawn one step across from the
     // sheet's corner, where the shift of place 4 leaves it, and the next one a step further.
@@ -94,12 +76,7 @@ TEST(Bogen, KopienZaehlenJeAdresseUndSeriennummernJeStueck) {
     Adressen(s, {"", ""});
     s.ErstesEtikett = 3;
     Aufzeichnungsdrucker d;
-    Mitschrift o;
-    Druckwahl w;
-    w.Kopien = "3";
-    w.Adressen = Adresswahl::Alle;
-    w.Seriennummer = "7";
-    PrintDocument(s, o, d, w, d.Hilfen());
+    d.Drucke(s, {.Kopien = "3", .Seriennummer = "7", .Adressen = Adresswahl::Alle});
     ASSERT_EQ(d.Stuecke.size(), 6u);
     const double datensaetze[] = {1, 1, 1, 2, 2, 2};
     for (size_t i = 0; i < 6; ++i) {
@@ -115,11 +92,7 @@ TEST(Bogen, SeiteDruckenZaehltBoegen) {
     s.AktuellesEtikett.Anzahl_x = 4;
     s.AktuellesEtikett.Anzahl_y = 6;
     Aufzeichnungsdrucker d;
-    Mitschrift o;
-    Druckwahl w;
-    w.Kopien = "2";
-    w.SeiteDrucken = true;
-    PrintDocument(s, o, d, w, d.Hilfen());
+    d.Drucke(s, {.Kopien = "2", .SeiteDrucken = true});
     EXPECT_EQ(d.Stuecke.size(), 48u);
     // The run ends on a full sheet: the stop comes before the page break, so no empty page follows.
     EXPECT_EQ(d.Seiten(), 2);
@@ -131,12 +104,7 @@ TEST(Bogen, KategorieWirdOhneRaenderUndGrossschreibungVerglichen) {
     Adressen(s, {"Lieferant", " kunde ", "Privat", "KUNDE"});
     s.DatensatzNummer = 3;
     Aufzeichnungsdrucker d;
-    Mitschrift o;
-    Druckwahl w;
-    w.Kopien = "2";
-    w.Adressen = Adresswahl::Kategorie;
-    w.Kategorie = "Kunde";
-    PrintDocument(s, o, d, w, d.Hilfen());
+    d.Drucke(s, {.Kopien = "2", .Adressen = Adresswahl::Kategorie, .Kategorie = "Kunde"});
     ASSERT_EQ(d.Stuecke.size(), 4u);
     EXPECT_DOUBLE_EQ(d.Stuecke[0].Datensatz, 2);
     EXPECT_DOUBLE_EQ(d.Stuecke[1].Datensatz, 2);
@@ -147,11 +115,11 @@ TEST(Bogen, KategorieWirdOhneRaenderUndGrossschreibungVerglichen) {
 
     // A category that no address has prints nothing and opens no job.
     Aufzeichnungsdrucker leer;
-    w.Kategorie = "Verein";
-    EXPECT_EQ(PrintDocument(s, o, leer, w, leer.Hilfen()), Druckergebnis::Gedruckt);
+    EXPECT_EQ(leer.Drucke(s, {.Kopien = "2", .Adressen = Adresswahl::Kategorie, .Kategorie = "Verein"}),
+              Druckergebnis::Gedruckt);
     EXPECT_TRUE(leer.Stuecke.empty());
     EXPECT_TRUE(leer.Ereignisse.empty());
-    EXPECT_TRUE(o.Meldungen.empty());
+    EXPECT_TRUE(leer.o.Meldungen.empty());
 }
 
 TEST(Bogen, AdressenbereichWirdRepariert) {
@@ -170,12 +138,7 @@ TEST(Bogen, AdressenbereichWirdRepariert) {
         AppState s = Etikettenbogen();
         Adressen(s, {"", "", "", ""});
         Aufzeichnungsdrucker d;
-        Mitschrift o;
-        Druckwahl w;
-        w.Adressen = Adresswahl::Bereich;
-        w.Von = f.von;
-        w.Bis = f.bis;
-        PrintDocument(s, o, d, w, d.Hilfen());
+        d.Drucke(s, {.Adressen = Adresswahl::Bereich, .Von = f.von, .Bis = f.bis});
         std::vector<double> gedruckt;
         for (const Stueck& st : d.Stuecke)
             gedruckt.push_back(st.Datensatz);
@@ -190,10 +153,7 @@ TEST(Bogen, KorrekturenGeltenWaehrendDesDrucksUndWerdenZurueckgesetzt) {
     s.Seitennummer = 1;
     s.DatensatzNummer = 1;
     Aufzeichnungsdrucker d(false, 50); // 50 pixels of unprintable margin across
-    Mitschrift o;
-    Druckwahl w;
-    w.Kopien = "2";
-    PrintDocument(s, o, d, w, d.Hilfen());
+    d.Drucke(s, {.Kopien = "2"});
     ASSERT_EQ(d.Stuecke.size(), 2u);
     // The margin correction mixes tenths of a millimetre with the device's pixels, across only.
     EXPECT_DOUBLE_EQ(d.Stuecke[0].Randlinks, 72 + 15 - 50);
@@ -216,32 +176,26 @@ TEST(Bogen, KorrekturenGeltenWaehrendDesDrucksUndWerdenZurueckgesetzt) {
     brief.AbgleichX = 20;
     brief.AbgleichY = 10;
     Aufzeichnungsdrucker b(false, 30);
-    PrintDocument(brief, o, b, w, b.Hilfen());
+    b.Drucke(brief, {.Kopien = "2"});
     ASSERT_EQ(b.Stuecke.size(), 1u);
     EXPECT_EQ(b.Stuecke[0].Ursprung, QPoint(-Px(20 - 30), -Px(10)));
     EXPECT_EQ(b.Ereignisse, (std::vector<std::string>{"Oeffne", "Schliesse"}));
 }
 
 TEST(Bogen, UnsinnigeWerteEndenOhneHaengen) {
-    {
-        // Negative or empty copies count as one.
-        for (const char* kopien : {"-3", "", "0", "x"}) {
-            AppState s = Etikettenbogen();
-            Aufzeichnungsdrucker d;
-            Mitschrift o;
-            Druckwahl w;
-            w.Kopien = kopien;
-            PrintDocument(s, o, d, w, d.Hilfen());
-            EXPECT_EQ(d.Stuecke.size(), 1u) << kopien;
-        }
+    // Negative or empty copies count as one.
+    for (const char* kopien : {"-3", "", "0", "x"}) {
+        AppState s = Etikettenbogen();
+        Aufzeichnungsdrucker d;
+        d.Drucke(s, {.Kopien = kopien});
+        EXPECT_EQ(d.Stuecke.size(), 1u) << kopien;
     }
     // A start position at or past the end of the sheet starts at the first place.
     for (double erstes : {24.0, 1e9, 0.0, -3.0}) {
         AppState s = Etikettenbogen();
         s.ErstesEtikett = erstes;
         Aufzeichnungsdrucker d;
-        Mitschrift o;
-        PrintDocument(s, o, d, Druckwahl{}, d.Hilfen());
+        d.Drucke(s);
         ASSERT_EQ(d.Stuecke.size(), 1u) << erstes;
         EXPECT_EQ(d.Stuecke[0].Ursprung, Platz(s, 1, 1)) << erstes;
     }
@@ -250,10 +204,9 @@ TEST(Bogen, UnsinnigeWerteEndenOhneHaengen) {
         AppState s = Etikettenbogen();
         s.AktuellesEtikett.Anzahl_y = 0;
         Aufzeichnungsdrucker d;
-        Mitschrift o;
-        EXPECT_EQ(PrintDocument(s, o, d, Druckwahl{}, d.Hilfen()), Druckergebnis::Fehler);
+        EXPECT_EQ(d.Drucke(s), Druckergebnis::Fehler);
         EXPECT_TRUE(d.Ereignisse.empty());
-        ASSERT_EQ(o.Meldungen.size(), 1u);
+        ASSERT_EQ(d.o.Meldungen.size(), 1u);
     }
 }
 
@@ -264,12 +217,9 @@ TEST(Bogen, DruckerFehltMeldungUndNichtsVeraendert) {
     s.Seriennummer = 4;
     Aufzeichnungsdrucker d;
     d.OeffnenGelingt = false;
-    Mitschrift o;
-    Druckwahl w;
-    w.Adressen = Adresswahl::Alle;
-    EXPECT_EQ(PrintDocument(s, o, d, w, d.Hilfen()), Druckergebnis::Fehler);
-    ASSERT_EQ(o.Meldungen.size(), 1u);
-    EXPECT_TRUE(o.Meldungen[0].first.startsWith("Der Druck kann nicht beginnen"));
+    EXPECT_EQ(d.Drucke(s, {.Adressen = Adresswahl::Alle}), Druckergebnis::Fehler);
+    ASSERT_EQ(d.o.Meldungen.size(), 1u);
+    EXPECT_TRUE(d.o.Meldungen[0].first.startsWith("Der Druck kann nicht beginnen"));
     EXPECT_DOUBLE_EQ(s.DatensatzNummer, 2);
     EXPECT_EQ(s.Panel.Text1(21), "Name 2");
     EXPECT_EQ(s.AktuelleSeite.Randlinks, 72);
@@ -278,13 +228,10 @@ TEST(Bogen, DruckerFehltMeldungUndNichtsVeraendert) {
 TEST(Bogen, AbbruchUeberFortschritt) {
     AppState s = Etikettenbogen();
     Aufzeichnungsdrucker d;
-    Mitschrift o;
     Druckhilfen h = d.Hilfen();
     int gemeldet = 0;
     h.Fortschritt = [&](int) { return ++gemeldet < 5; };
-    Druckwahl w;
-    w.Kopien = "100";
-    EXPECT_EQ(PrintDocument(s, o, d, w, h), Druckergebnis::Abgebrochen);
+    EXPECT_EQ(PrintDocument(s, d.o, d, {.Kopien = "100"}, h), Druckergebnis::Abgebrochen);
     EXPECT_EQ(d.Stuecke.size(), 5u);
     EXPECT_EQ(d.Ereignisse.back(), "Schliesse");
 }

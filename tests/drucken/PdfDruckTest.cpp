@@ -68,17 +68,7 @@ Druckhilfen Namenskomposition() {
 }
 
 AppState Bogen(int adressen) {
-    AppState s;
-    s.IstEtikett = -1;
-    s.AktuelleSeite.Breite = 2100;
-    s.AktuelleSeite.Höhe = 2970;
-    s.AktuelleSeite.Randlinks = 72;
-    s.AktuelleSeite.Randoben = 130;
-    s.AktuellesEtikett.Breite = 660;
-    s.AktuellesEtikett.Höhe = 338;
-    s.AktuellesEtikett.Abstand_x = 25;
-    s.AktuellesEtikett.Anzahl_x = 3;
-    s.AktuellesEtikett.Anzahl_y = 8;
+    AppState s = Etikettenbogen();
     s.DatensatzAnzahl = adressen;
     return s;
 }

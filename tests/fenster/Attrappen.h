@@ -2,6 +2,7 @@
 // Test doubles for the window tests: services that record what was asked of them, a user
 // interface with preset answers, and a state set up like Main leaves it for an edition.
 
+#include "common/ProtokollOberflaeche.h"
 #include "core/AppState.h"
 #include "core/Dokumentdienste.h"
 #include "core/Oberflaeche.h"
@@ -50,17 +51,7 @@ inline Dokumentdienste AlleDienste(Protokoll& p) {
 }
 
 // A user who answers as told and whose messages are kept.
-class Nutzer : public Oberflaeche {
-public:
-    bool Frage(const QString& text, const QString&) override {
-        fragen << text;
-        return standardAntwort;
-    }
-    void Meldung(const QString& text, const QString&, const QString& = {}) override { meldungen << text; }
-    void StatusDatei(const QString& t) override { status = t; }
-    QStringList fragen, meldungen;
-    QString status = QStringLiteral("unverändert");
-};
+using Nutzer = ProtokollOberflaeche;
 
 // The main window with the user's side replaced: no dialog ever blocks a test.
 class TestFenster : public FrmMain {

@@ -60,10 +60,11 @@ TEST_F(Kalender, NeuMitNeinLaesstAllesStehen) {
     s.Termine(3, 5) = "Geburtstag";
     s.Datendatei = "/x/meine.zpd";
     ui.standardAntwort = false;
+    ui.datei = "unverändert";
     EXPECT_FALSE(BefehlNeu(s, ui, d));
     EXPECT_EQ(s.Termine(3, 5), "Geburtstag");
     EXPECT_EQ(s.Datendatei, "/x/meine.zpd");
-    EXPECT_EQ(ui.status, "unverändert");
+    EXPECT_EQ(ui.datei, "unverändert");
     EXPECT_EQ(ui.fragen, QStringList{"Sollen die aktuellen Daten gelöscht werden?"});
     EXPECT_TRUE(p.aufrufe.isEmpty());
 }
@@ -79,7 +80,7 @@ TEST_F(Kalender, NeuMitJaLeertDieTageUndLaedtKeinDesign) {
     EXPECT_TRUE(s.Feiertage(1, 1).isEmpty());
     EXPECT_TRUE(s.Panel.TextTitel.isEmpty());
     EXPECT_EQ(s.Datendatei, s.Programmpfad + "neu.zpd");
-    EXPECT_EQ(ui.status, s.Programmpfad + "neu.zpd");
+    EXPECT_EQ(ui.datei, s.Programmpfad + "neu.zpd");
     EXPECT_TRUE(p.aufrufe.isEmpty());
 }
 
@@ -207,7 +208,7 @@ TEST(Galerie, LaedtVorlageUndBehaeltDenEigenenDateinamen) {
     GalerieLaden(s, ui, AlleDienste(p), 2);
     EXPECT_EQ(p.aufrufe, QStringList{"LoadDesign:" + vorlage.fileName() + "||"});
     EXPECT_EQ(s.AktuelleDatei, "/home/ich/karte.zpv");
-    EXPECT_EQ(ui.status, "/home/ich/karte.zpv");
+    EXPECT_EQ(ui.datei, "/home/ich/karte.zpv");
     // A row without its file loads nothing.
     p.aufrufe.clear();
     GalerieLaden(s, ui, AlleDienste(p), 7);

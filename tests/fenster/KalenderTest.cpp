@@ -51,13 +51,5 @@ TEST(Seiten, BereichNachTypwechsel) {
     EXPECT_EQ(s.Seitennummer, 53);
 }
 
-TEST(Umschalten, NullUndMinusEinsTauschen) {
-    float f = 0;
-    Umschalten(f);
-    EXPECT_EQ(f, -1);
-    Umschalten(f);
-    EXPECT_EQ(f, 0);
-}
-
 } // namespace
 } // namespace zp::test

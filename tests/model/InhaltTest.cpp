@@ -1,4 +1,5 @@
 #include "model/Inhalt.h"
+#include "common/ProtokollOberflaeche.h"
 #include "core/AppState.h"
 #include "core/Oberflaeche.h"
 #include "core/Start.h"
@@ -11,16 +12,9 @@
 using namespace zp;
 
 namespace {
-struct Antworten : Oberflaeche {
-    void Meldung(const QString& text, const QString& titel, const QString&) override {
-        meldungen << titel + u'|' + text;
-    }
-    QStringList meldungen;
-};
-
 AppState Dokument() {
     AppState s;
-    Antworten ui;
+    test::ProtokollOberflaeche ui;
     QTemporaryDir leer;
     Main(s, leer.path(), ui);
     return s;
@@ -76,7 +70,7 @@ TEST(LoescheRahmen, RenumbersObjectsFramesAndLevels) {
     s.Schriftliste(35).Textstring = QStringLiteral("fünfunddreißig");
     s.RahmenNummer = 35;
 
-    Antworten ui;
+    test::ProtokollOberflaeche ui;
     EXPECT_EQ(LoescheRahmen(s, ui), Loeschergebnis::Geloescht);
     EXPECT_EQ(s.RahmenAnzahl, 39);
     EXPECT_TRUE(ZIstPermutation(s));
@@ -93,7 +87,7 @@ TEST(LoescheRahmen, RenumbersObjectsFramesAndLevels) {
 TEST(LoescheRahmen, LastPictureNeedsNoRenumbering) {
     AppState s = Dokument();
     FuegeInhaltEin(s, QStringLiteral("Bild"));
-    Antworten ui;
+    test::ProtokollOberflaeche ui;
     EXPECT_EQ(LoescheRahmen(s, ui), Loeschergebnis::Geloescht);
     EXPECT_EQ(s.BildAnzahl, 0);
     EXPECT_EQ(s.Bildliste.Obergrenze(), 1); // one empty slot stays
@@ -101,7 +95,7 @@ TEST(LoescheRahmen, LastPictureNeedsNoRenumbering) {
 }
 
 TEST(LoescheRahmen, TemplateFramesAreEmptiedNotDeleted) {
-    Antworten ui;
+    test::ProtokollOberflaeche ui;
     AppState k = Dokument();
     k.IstKalender = -1;
     k.RahmenNummer = 3;
@@ -121,7 +115,8 @@ TEST(LoescheRahmen, TemplateFramesAreEmptiedNotDeleted) {
     v.RahmenNummer = 31; // the letter body can't even be emptied
     EXPECT_EQ(LoescheRahmen(v, ui), Loeschergebnis::Verweigert);
     ASSERT_EQ(ui.meldungen.size(), 1);
-    EXPECT_EQ(ui.meldungen[0], QStringLiteral("Hinweis|Sie können nur eingefügte Rahmen löschen"));
+    EXPECT_EQ(ui.meldungen[0], QStringLiteral("Sie können nur eingefügte Rahmen löschen"));
+    EXPECT_EQ(ui.titel_, u"Hinweis");
 
     // A record picture above the template frames empties the record's picture column.
     FuegeInhaltEin(v, QStringLiteral("Bild"));
@@ -137,7 +132,7 @@ TEST(LoescheRahmen, TemplateFramesAreEmptiedNotDeleted) {
 TEST(LoescheRahmen, NoKeepsTheFrame) {
     AppState s = Dokument();
     FuegeInhaltEin(s, QStringLiteral("Linie"));
-    Antworten ui;
+    test::ProtokollOberflaeche ui;
     ui.standardAntwort = false;
     EXPECT_EQ(LoescheRahmen(s, ui), Loeschergebnis::Abgebrochen);
     EXPECT_EQ(s.RahmenAnzahl, 32);

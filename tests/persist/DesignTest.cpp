@@ -1,4 +1,5 @@
 #include "persist/Design.h"
+#include "common/ProtokollOberflaeche.h"
 #include "common/TestHilfe.h"
 #include "core/AppState.h"
 #include "core/Oberflaeche.h"
@@ -14,23 +15,11 @@ using namespace zp;
 
 namespace {
 
-// Records the messages and window updates a load asks for.
-struct Protokoll : Oberflaeche {
-    void Meldung(const QString& text, const QString& titel, const QString& detail) override {
-        meldungen << titel + u'|' + text + u'|' + detail;
-    }
-    void StatusDatei(const QString& text) override { status = text; }
-    void Neuzeichnen() override { ++neuzeichnen; }
-    QStringList meldungen;
-    QString status;
-    int neuzeichnen = 0;
-};
-
 enum class Ausgabe { Kalender, Visitenkarte, Briefkopf, Etikett };
 
 AppState Zustand(Ausgabe a) {
     AppState s;
-    Protokoll still;
+    test::ProtokollOberflaeche still;
     Main(s, QStringLiteral("/nirgends"), still);
     s.IstKalender = a == Ausgabe::Kalender ? -1 : 0;
     s.IstVisitenkarte = a == Ausgabe::Visitenkarte ? -1 : 0;
@@ -55,117 +44,18 @@ struct Entwurf {
     int spalten = 30;
 
     QByteArray Bytes() const {
-        QStringList z = {
-            "ZP Datenfile", "ZP Visitenkarte", QString::number(version), zeile4, zeile5, "Reserve", "Reserve",
-            "Reserve",      "Reserve"};
-        z << "Rahmen"
-          << "1"
-          << "500,9"
-          << "200"
-          << "1"
-          << "Schrift"
-          << "-1"
-          << "0"
-          << "0"
-          << "10,5"
-          << "-0,5"
-          << "1";
+        auto zeilen = [](const char* z) { return QString::fromUtf8(z).split(u'|'); };
+        QStringList z = {"ZP Datenfile", "ZP Visitenkarte", QString::number(version), zeile4, zeile5};
+        z << zeilen("Reserve|Reserve|Reserve|Reserve|Rahmen|1|500,9|200|1|Schrift|-1|0|0|10,5|-0,5|1");
         if (version > 799) z << "0";
-        z << "Schrift"
-          << "1";
-        z << "15"
-          << "1"
-          << "2"
-          << "-1"
-          << "3"
-          << "255"
-          << "65280"
-          << "4"
-          << "1" << fontname << "12,5"
-          << "7,9"
-          << "0"
-          << "45"
-          << "12632256"
-          << "0"
-          << "5"
-          << "1"
-          << "2"
-          << "0";
-        z << text;
-        z << top << "-1"
-          << "99,5"
-          << "-3,5"
-          << "1"
-          << "-1";
-        z << "Bild"
-          << "1";
-        z << "0"
-          << "1"
-          << "2"
-          << "3"
-          << "4"
-          << "5"
-          << "bild.jpg"
-          << ""
-          << "bild.jpg"
-          << "/x/"
-          << "-1"
-          << "6"
-          << "0"
-          << "7"
-          << "90"
-          << "8";
+        z << zeilen("Schrift|1|15|1|2|-1|3|255|65280|4|1") << fontname;
+        z << zeilen("12,5|7,9|0|45|12632256|0|5|1|2|0") << text;
+        z << top << zeilen("-1|99,5|-3,5|1|-1|Bild|1|0|1|2|3|4|5|bild.jpg||bild.jpg|/x/|-1|6|0|7|90|8");
         if (version > 799) z << "1";
-        z << "Linie"
-          << "1";
-        z << "30"
-          << "255"
-          << "0"
-          << "0"
-          << "16"
-          << "-1"
-          << "12,5"
-          << "45"
-          << "0"
-          << "0"
-          << "0"
-          << "0"
-          << "0"
-          << "2"
-          << "13,5"
-          << "1"
-          << "2";
-        z << "RTF"
-          << "1"
-          << "RTF1.rtf";
+        z << zeilen("Linie|1|30|255|0|0|16|-1|12,5|45|0|0|0|0|0|2|13,5|1|2|RTF|1|RTF1.rtf");
         if (version > 700) {
-            z << "back.jpg"
-              << "3"
-              << "90"
-              << "0"
-              << "0"
-              << "16777215"
-              << "255"
-              << "2"
-              << "1"
-              << "maske.bmp"
-              << "4"
-              << "0";
-            z << "10"
-              << "20"
-              << "2"
-              << "5"
-              << "850"
-              << "540"
-              << "1"
-              << "2"
-              << "200"
-              << "135"
-              << "3"
-              << "4"
-              << "6"
-              << "-1"
-              << "0";
+            z << zeilen("back.jpg|3|90|0|0|16777215|255|2|1|maske.bmp|4|0");
+            z << zeilen("10|20|2|5|850|540|1|2|200|135|3|4|6|-1|0");
         }
         if (datensaetze >= 0) {
             z << QString::number(datensaetze);
@@ -193,10 +83,10 @@ std::string Unterschied(const QByteArray& ist, const QByteArray& soll) {
 
 TEST(LoadDesign, ReadsEveryRecordField) {
     AppState s = Zustand(Ausgabe::Visitenkarte);
-    Protokoll ui;
+    test::ProtokollOberflaeche ui;
     Entwurf e;
     e.datensaetze = 2;
-    ASSERT_TRUE(LadeDesignAusBytes(s, ui, e.Bytes())) << ui.meldungen.join(u'\n').toStdString();
+    ASSERT_TRUE(LadeDesignAusBytes(s, ui, e.Bytes())) << ui.ganz.join(u'\n').toStdString();
     ASSERT_EQ(s.RahmenAnzahl, 1);
     const ClassRahmen& r = s.Rahmenliste(1);
     EXPECT_EQ(r.Breite, 500.9);
@@ -231,15 +121,15 @@ TEST(LoadDesign, ReadsEveryRecordField) {
     EXPECT_EQ(s.Datensaetze(30, 2), u"S2F30");
     EXPECT_EQ(s.RahmenNummer, 21);
     EXPECT_EQ(s.Panel.Text1(1), u"Hallo");
-    EXPECT_EQ(ui.status, u"/nirgends/test.zpv"); // the window puts "Aktuelle Datei: " before it
-    EXPECT_TRUE(ui.meldungen.isEmpty());
+    EXPECT_EQ(ui.datei, u"/nirgends/test.zpv"); // the window puts "Aktuelle Datei: " before it
+    EXPECT_TRUE(ui.ganz.isEmpty());
 }
 
 TEST(LoadDesign, VersionBranches) {
     // 700 has no sheet block, 701 has one.
     for (int version : {700, 701}) {
         AppState s = Zustand(Ausgabe::Briefkopf);
-        Protokoll ui;
+        test::ProtokollOberflaeche ui;
         Entwurf e;
         e.version = version;
         ASSERT_TRUE(LadeDesignAusBytes(s, ui, e.Bytes())) << version;
@@ -259,7 +149,7 @@ TEST(LoadDesign, VersionBranches) {
     for (const auto& f : faelle) {
         AppState s = Zustand(Ausgabe::Visitenkarte);
         s.Datensaetze(1, 1) = QStringLiteral("eigene Adresse");
-        Protokoll ui;
+        test::ProtokollOberflaeche ui;
         Entwurf e;
         e.version = f.version;
         e.zeile5 = QString::fromLatin1(f.zeile5);
@@ -276,7 +166,7 @@ TEST(LoadDesign, VersionBranches) {
 TEST(LoadDesign, LogoFrameForOldCardDesigns) {
     for (int version : {100, 101, 799, 800}) {
         AppState s = Zustand(Ausgabe::Visitenkarte);
-        Protokoll ui;
+        test::ProtokollOberflaeche ui;
         Entwurf e;
         e.version = version;
         e.datensaetze = version > 703 ? 1 : -1;
@@ -301,7 +191,7 @@ TEST(LoadDesign, LogoFrameForOldCardDesigns) {
 TEST(LoadDesign, CalendarTypeLineAndCalendarFrames) {
     AppState s = Zustand(Ausgabe::Briefkopf);
     s.Kalendertyp = 5;
-    Protokoll ui;
+    test::ProtokollOberflaeche ui;
     Entwurf e;
     e.zeile4 = QStringLiteral("0");
     ASSERT_TRUE(LadeDesignAusBytes(s, ui, e.Bytes()));
@@ -324,7 +214,7 @@ TEST(LoadDesign, CalendarTypeLineAndCalendarFrames) {
 
 TEST(LoadDesign, MultiLineTextKeepsItsFirstLine) {
     AppState s = Zustand(Ausgabe::Briefkopf);
-    Protokoll ui;
+    test::ProtokollOberflaeche ui;
     Entwurf e;
     e.text = QStringList{"Erste Zeile", "zweite Zeile", "dritte"};
     e.top = QStringLiteral("12,5");
@@ -343,8 +233,8 @@ TEST(LoadDesign, MultiLineTextKeepsItsFirstLine) {
     e.text = QStringList{"Hauptstraße", "12 Hinterhaus"};
     e.top = QStringLiteral("0");
     EXPECT_FALSE(LadeDesignAusBytes(s, ui, e.Bytes()));
-    ASSERT_FALSE(ui.meldungen.isEmpty());
-    EXPECT_TRUE(ui.meldungen.last().startsWith(u"Warnung!|Falsches Datenformat|"));
+    ASSERT_FALSE(ui.ganz.isEmpty());
+    EXPECT_TRUE(ui.ganz.last().startsWith(u"Warnung!|Falsches Datenformat|"));
     EXPECT_EQ(s.Schriftliste(1).Textstring, u"Nur eine");
 }
 
@@ -352,7 +242,7 @@ TEST(LoadDesign, FontCheckFallsBackToArial) {
     AppState s = Zustand(Ausgabe::Briefkopf);
     s.Schriftenliste(1) = QStringLiteral("  DejaVu Sans ");
     s.Schriftenliste(999) = QStringLiteral("Letzte");
-    Protokoll ui;
+    test::ProtokollOberflaeche ui;
     Entwurf e;
     e.fontname = QStringLiteral("DejaVu Sans");
     ASSERT_TRUE(LadeDesignAusBytes(s, ui, e.Bytes()));
@@ -369,7 +259,7 @@ TEST(LoadDesign, TemplateKeepsThePanelTexts) {
     AppState s = Zustand(Ausgabe::Visitenkarte);
     s.Panel.Text1(1) = QStringLiteral("getippt");
     s.Ladevorgabe = QStringLiteral("/daten/design3.zpv");
-    Protokoll ui;
+    test::ProtokollOberflaeche ui;
     Entwurf e;
     e.zeile5 = QStringLiteral("Vorlage");
     ASSERT_TRUE(LadeDesignAusBytes(s, ui, e.Bytes()));
@@ -406,13 +296,13 @@ TEST(LoadDesign, BadFilesLeaveTheDocument) {
     for (const auto& f : faelle) {
         AppState s = Zustand(Ausgabe::Etikett);
         s.Schriftliste(5).Textstring = QStringLiteral("bleibt");
-        Protokoll ui;
+        test::ProtokollOberflaeche ui;
         EXPECT_FALSE(LadeDesignAusBytes(s, ui, f.bytes)) << f.name;
-        ASSERT_EQ(ui.meldungen.size(), 1) << f.name;
-        EXPECT_TRUE(ui.meldungen[0].startsWith(u"Warnung!|Falsches Datenformat|/nirgends/test.zpv, Zeile"))
-            << ui.meldungen[0].toStdString();
+        ASSERT_EQ(ui.ganz.size(), 1) << f.name;
+        EXPECT_TRUE(ui.ganz[0].startsWith(u"Warnung!|Falsches Datenformat|/nirgends/test.zpv, Zeile"))
+            << ui.ganz[0].toStdString();
         if (f.zeile) {
-            EXPECT_TRUE(ui.meldungen[0].contains(QStringLiteral("Zeile %1:").arg(f.zeile))) << f.name;
+            EXPECT_TRUE(ui.ganz[0].contains(QStringLiteral("Zeile %1:").arg(f.zeile))) << f.name;
         }
         EXPECT_EQ(s.RahmenAnzahl, 31) << f.name;
         EXPECT_EQ(s.Schriftliste(5).Textstring, u"bleibt") << f.name;
@@ -439,7 +329,7 @@ TEST(SaveDesign, CutsFramesAndRoundTrips) {
     EXPECT_TRUE(bytes.contains("\r\n10,5\r\n"));                  // decimal comma
 
     AppState t = Zustand(Ausgabe::Etikett);
-    Protokoll ui;
+    test::ProtokollOberflaeche ui;
     ASSERT_TRUE(LadeDesignAusBytes(t, ui, bytes));
     EXPECT_EQ(t.Schriftliste(2).Textstring, s.Schriftliste(2).Textstring);
     EXPECT_EQ(t.Schriftliste(2).Top, 12); // the numeric prefix stops at the comma
@@ -487,8 +377,8 @@ TEST(SaveDesign, ShippedDesignsComeBackByteForByte) {
         LeseSchriftenliste(s);
         s.Programmname = zeilen[1];
         s.AktuelleDatei = pfad;
-        Protokoll ui;
-        ASSERT_TRUE(LadeDesignAusBytes(s, ui, *bytes)) << ui.meldungen.join(u'\n').toStdString();
+        test::ProtokollOberflaeche ui;
+        ASSERT_TRUE(LadeDesignAusBytes(s, ui, *bytes)) << ui.ganz.join(u'\n').toStdString();
         QStringList erwartet = zeilen;
         erwartet[4] = QStringLiteral("Reserve");
         QStringList geschrieben = ZeilenAusBytes(SchreibeDesign(s));
@@ -499,7 +389,8 @@ TEST(SaveDesign, ShippedDesignsComeBackByteForByte) {
             for (qsizetype i = erwartet.size() - 16; i < erwartet.size() - 1; ++i)
                 erwartet[i] = geschrieben[i];
         }
-        EXPECT_EQ(Unterschied(BytesAusZeilen(geschrieben), BytesAusZeilen(erwartet)), "") << pfad.toStdString();
+        EXPECT_EQ(Unterschied(BytesAusZeilen(geschrieben), BytesAusZeilen(erwartet)), "")
+            << pfad.toStdString();
         ++dateien;
     }
     EXPECT_GE(dateien, 1);

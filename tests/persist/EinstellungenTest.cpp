@@ -8,12 +8,6 @@
 
 using namespace zp;
 
-namespace {
-QStringList Zeilen(const QByteArray& b) {
-    return ZeilenAusBytes(b);
-}
-} // namespace
-
 TEST(ParseIniLine, SplitsAtTheFirstEqualsSign) {
     struct Fall {
         const char* zeile;
@@ -108,7 +102,7 @@ TEST(SchreibeEinstellungen, WritesTheSixtyFiveKeysInTheirForms) {
     s.Startdatei = QStringLiteral("x.zpk");
     s.Monatsnamen(1) = QStringLiteral("Januar");
     s.Druckername = QStringLiteral("PDF");
-    const QStringList z = Zeilen(SchreibeEinstellungen(s));
+    const QStringList z = ZeilenAusBytes(SchreibeEinstellungen(s));
     ASSERT_EQ(z.size(), 65);
     EXPECT_EQ(z[0], u"Version = 8.02");
     EXPECT_EQ(z[1], u"Startdatei = x.zpk");

@@ -1,5 +1,5 @@
 #pragma once
-// A window stand-in that records what the commands tell it.
+// A window stand-in that keeps what the core tells it; questions get the preset standardAntwort.
 
 #include "core/Oberflaeche.h"
 
@@ -10,6 +10,7 @@ namespace zp::test {
 struct ProtokollOberflaeche : Oberflaeche {
     void Meldung(const QString& text, const QString& titel, const QString& detail) override {
         meldungen << text;
+        ganz << titel + u'|' + text + u'|' + detail;
         titel_ = titel;
         detail_ = detail;
     }
@@ -18,12 +19,14 @@ struct ProtokollOberflaeche : Oberflaeche {
         return Oberflaeche::Frage(text, titel);
     }
     void Statusmeldung(const QString& text) override { status << text; }
+    void StatusDatei(const QString& text) override { datei = text; }
     void Neuzeichnen() override { ++neuzeichnen; }
     void DatensatzAnzeigen() override { ++anzeigen; }
     void FokusFeldbox(int i) override { fokus = i; }
 
     QStringList meldungen, fragen, status;
-    QString titel_, detail_;
+    QStringList ganz;               // each message as "title|text|detail"
+    QString titel_, detail_, datei; // title and detail of the last message; the last file shown
     int neuzeichnen = 0, anzeigen = 0, fokus = 0;
 };
 
