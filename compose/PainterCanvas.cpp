@@ -526,6 +526,30 @@ void PainterCanvas::Ausgeben(Zeichnung z) {
     Zeichne(*m_painter, z);
 }
 
+namespace {
+// A box with a plain one-pixel pen as five filled rectangles, the pixels the painter's outline
+// would set: a calendar page has hundreds of day boxes, and the painter strokes each outline.
+bool RahmenAlsFlaechen(QPainter& p, const Zeichnung& z) {
+    if (z.stift.style() != Qt::SolidLine || z.stift.width() > 1 ||
+        z.modus != QPainter::CompositionMode_SourceOver || p.testRenderHint(QPainter::Antialiasing) ||
+        p.transform().type() > QTransform::TxTranslate)
+        return false;
+    const QRect aussen(z.rechteck.topLeft(), QSize(z.rechteck.width() + 1, z.rechteck.height() + 1));
+    if (aussen.width() <= 0 || aussen.height() <= 0) return false;
+    const QColor farbe = z.stift.color();
+    if (aussen.width() <= 2 || aussen.height() <= 2) {
+        p.fillRect(aussen, farbe);
+        return true;
+    }
+    if (z.pinsel.style() != Qt::NoBrush) p.fillRect(aussen.adjusted(1, 1, -1, -1), z.pinsel);
+    p.fillRect(QRect(aussen.left(), aussen.top(), aussen.width(), 1), farbe);
+    p.fillRect(QRect(aussen.left(), aussen.bottom(), aussen.width(), 1), farbe);
+    p.fillRect(QRect(aussen.left(), aussen.top() + 1, 1, aussen.height() - 2), farbe);
+    p.fillRect(QRect(aussen.right(), aussen.top() + 1, 1, aussen.height() - 2), farbe);
+    return true;
+}
+} // namespace
+
 void PainterCanvas::Zeichne(QPainter& p, const Zeichnung& z) {
     if (!p.isActive()) return;
     if (z.art == Zeichnung::Art::Text) {
@@ -538,6 +562,7 @@ void PainterCanvas::Zeichne(QPainter& p, const Zeichnung& z) {
         p.fillRect(z.rechteck, z.pinsel);
         break;
     case Zeichnung::Art::Rahmen:
+        if (RahmenAlsFlaechen(p, z)) break;
         p.setPen(z.stift);
         p.setBrush(z.pinsel);
         p.drawRect(z.rechteck);
