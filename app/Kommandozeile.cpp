@@ -1,8 +1,11 @@
 #include "Kommandozeile.h"
 
+#include "render/Bildwerk.h"
+
 #include "core/AppState.h"
 #include "core/Programmordner.h"
 #include "core/Start.h"
+#include "render/Bildwerk.h"
 
 #include <QDir>
 #include <algorithm>
@@ -184,6 +187,8 @@ int FuehreStapellaufAus(const Kommandozeile& zeile, AppState& s, BatchOberflaech
         return 1;
     }
     Main(s, ordner, ui);
+    // A picture that can't be loaded is told like every other message of the run.
+    BildwerkVon(s).Meldungen = &ui;
     // Without its start document the program still runs on the built-in one, as the window
     // does; the run then ends with status 1.
     LadeStartzustand(s, ui);

@@ -3,13 +3,10 @@
 
 #include "core/AppState.h"
 #include "output/Bitmapexport.h"
-#include "render/Bildwerk.h"
 
 namespace {
 
 bool SchreibeBmp(zp::Batchlauf& lauf, const QString& datei) {
-    // A picture that can't be loaded is told like every other message of the run.
-    zp::BildwerkVon(lauf.s).Meldungen = &lauf.ui;
     QString fehler;
     if (!zp::BildSpeichern(lauf.s, datei, &fehler)) {
         lauf.Fehler(fehler);

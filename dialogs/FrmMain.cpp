@@ -12,6 +12,7 @@
 #include "core/Seitennavigation.h"
 #include "core/Start.h"
 #include "core/Zoom.h"
+#include "render/Bildwerk.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -64,6 +65,13 @@ FrmMain::FrmMain(AppState& state, Dokumentdienste dienste, QWidget* parent)
     PanelsAnlegen();
     Verbinden();
     Freigaben();
+    // A picture that can't be loaded is told in a message box, once per file.
+    BildwerkVon(s).Meldungen = this;
+}
+
+FrmMain::~FrmMain() {
+    Bildwerk& werk = BildwerkVon(s);
+    if (werk.Meldungen == this) werk.Meldungen = nullptr;
 }
 
 void FrmMain::FarbfeldZeigen(QToolButton* feld, int farbe) {
@@ -217,12 +225,15 @@ void FrmMain::Neuzeichnen() {
     const double ty = s.TwipsProPixelY > 0 ? s.TwipsProPixelY : 15;
     const QSize pixel(std::max(1, static_cast<int>(std::lround(twips.width() / tx))),
                       std::max(1, static_cast<int>(std::lround(twips.height() / ty))));
-    QImage bild(pixel, QImage::Format_RGB32);
-    bild.fill(Qt::white);
     if (m_d.Seitenbild) {
         QImage seite = SeiteZeichnen();
-        if (!seite.isNull()) bild = std::move(seite);
+        if (!seite.isNull()) {
+            m_seite->PictureSeite()->BildSetzen(std::move(seite));
+            return;
+        }
     }
+    QImage bild(pixel, QImage::Format_RGB32);
+    bild.fill(Qt::white);
     if (!m_d.Seitenbild) {
         // Without the composition the view shows the bare sheet with its edge.
         QPainter p(&bild);

@@ -35,6 +35,7 @@ class FrmMain : public QMainWindow, public Oberflaeche {
     Q_OBJECT
 public:
     FrmMain(AppState& s, Dokumentdienste dienste, QWidget* parent = nullptr);
+    ~FrmMain() override;
 
     // The load handler: fonts, edition settings, panels, window size, zoom, start document.
     void Laden();
