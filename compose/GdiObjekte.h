@@ -2,10 +2,11 @@
 // The fonts and regions that a device context hands out as handles. Shared by the canvases, so
 // that all of them number and free their objects alike.
 
+#include "compose/Clipflaeche.h"
 #include "compose/canvas.h"
 
-#include <QRegion>
 #include <unordered_map>
+#include <utility>
 
 namespace zp {
 
@@ -16,16 +17,16 @@ public:
         m_schriften.emplace(h, font);
         return h;
     }
-    GdiHandle NeueRegion(const QRegion& region) {
+    GdiHandle NeueRegion(Clipflaeche region) {
         const GdiHandle h = m_naechster++;
-        m_regionen.emplace(h, region);
+        m_regionen.emplace(h, std::move(region));
         return h;
     }
     [[nodiscard]] const LogFont* Schrift(GdiHandle h) const {
         auto it = m_schriften.find(h);
         return it == m_schriften.end() ? nullptr : &it->second;
     }
-    [[nodiscard]] const QRegion* Region(GdiHandle h) const {
+    [[nodiscard]] const Clipflaeche* Region(GdiHandle h) const {
         auto it = m_regionen.find(h);
         return it == m_regionen.end() ? nullptr : &it->second;
     }
@@ -40,16 +41,7 @@ public:
 private:
     GdiHandle m_naechster = 1;
     std::unordered_map<GdiHandle, LogFont> m_schriften;
-    std::unordered_map<GdiHandle, QRegion> m_regionen;
+    std::unordered_map<GdiHandle, Clipflaeche> m_regionen;
 };
-
-// A rectangle region as the device builds it: the pixels from left/top up to, not including,
-// right/bottom, with the corners put in order.
-inline QRegion RechteckRegion(int left, int top, int right, int bottom) {
-    if (left > right) std::swap(left, right);
-    if (top > bottom) std::swap(top, bottom);
-    if (left == right || top == bottom) return {};
-    return QRegion(left, top, right - left, bottom - top);
-}
 
 } // namespace zp

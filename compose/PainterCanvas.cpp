@@ -106,10 +106,9 @@ QFont PainterCanvas::QtSchrift(const LogFont& lf) {
     return f;
 }
 
-void PainterCanvas::StiftUndPinsel(bool mitPinsel) {
-    QPainter& p = *m_painter;
+void PainterCanvas::StiftUndPinsel(Zeichnung& z, bool mitPinsel) const {
     if (DrawStyle == 5) {
-        p.setPen(Qt::NoPen);
+        z.stift = QPen(Qt::NoPen);
     } else {
         QPen stift(QtFarbe(ForeColor));
         stift.setWidth(std::max(1, DrawWidth));
@@ -136,10 +135,10 @@ void PainterCanvas::StiftUndPinsel(bool mitPinsel) {
         stift.setStyle(stil);
         stift.setCapStyle(Qt::FlatCap);
         stift.setJoinStyle(Qt::MiterJoin);
-        p.setPen(stift);
+        z.stift = stift;
     }
     if (!mitPinsel || FillStyle == 1) {
-        p.setBrush(Qt::NoBrush);
+        z.pinsel = QBrush(Qt::NoBrush);
     } else {
         Qt::BrushStyle stil = Qt::SolidPattern;
         switch (FillStyle) {
@@ -164,17 +163,17 @@ void PainterCanvas::StiftUndPinsel(bool mitPinsel) {
         default:
             break;
         }
-        p.setBrush(QBrush(QtFarbe(FillColor), stil));
+        z.pinsel = QBrush(QtFarbe(FillColor), stil);
     }
     switch (DrawMode) {
     case 6:
-        p.setCompositionMode(QPainter::RasterOp_NotDestination);
+        z.modus = QPainter::RasterOp_NotDestination;
         break;
     case 7:
-        p.setCompositionMode(QPainter::RasterOp_SourceXorDestination);
+        z.modus = QPainter::RasterOp_SourceXorDestination;
         break;
     default:
-        p.setCompositionMode(QPainter::CompositionMode_SourceOver);
+        z.modus = QPainter::CompositionMode_SourceOver;
         break;
     }
 }
@@ -182,6 +181,7 @@ void PainterCanvas::StiftUndPinsel(bool mitPinsel) {
 // ---- Picture-box methods ---------------------------------------------------------------------
 
 void PainterCanvas::Cls() {
+    StufenAusgeben();
     QPainter& p = *m_painter;
     if (p.isActive() && p.device()) {
         const QTransform t = p.transform();
@@ -199,25 +199,29 @@ void PainterCanvas::Cls() {
 }
 
 void PainterCanvas::Line(double x1, double y1, double x2, double y2, CanvasFarbe farbe, LineForm form) {
-    QPainter& p = *m_painter;
     const CanvasFarbe alt = ForeColor;
     if (farbe >= 0) ForeColor = farbe;
     const int l = Px(x1, m_tppX), t = Px(y1, m_tppY), r = Px(x2, m_tppX), b = Px(y2, m_tppY);
+    Zeichnung z;
     switch (form) {
     case LineForm::Linie:
-        StiftUndPinsel(false);
-        p.drawLine(l, t, r, b);
+        StiftUndPinsel(z, false);
+        z.art = Zeichnung::Art::Linienzug;
+        z.punkte = QPolygon({QPoint(l, t), QPoint(r, b)});
         break;
     case LineForm::Kasten:
-        StiftUndPinsel(true);
-        p.drawRect(QRect(QPoint(l, t), QPoint(r, b)).normalized().adjusted(0, 0, -1, -1));
+        StiftUndPinsel(z, true);
+        z.art = Zeichnung::Art::Rahmen;
+        z.rechteck = QRect(QPoint(l, t), QPoint(r, b)).normalized().adjusted(0, 0, -1, -1);
         break;
-    case LineForm::KastenGefuellt: {
-        StiftUndPinsel(false);
-        p.fillRect(QRect(QPoint(l, t), QPoint(r, b)).normalized(), QtFarbe(ForeColor));
+    case LineForm::KastenGefuellt:
+        StiftUndPinsel(z, false);
+        z.art = Zeichnung::Art::Flaeche;
+        z.pinsel = QBrush(QtFarbe(ForeColor));
+        z.rechteck = QRect(QPoint(l, t), QPoint(r, b)).normalized();
         break;
     }
-    }
+    Ausgeben(std::move(z));
     ForeColor = alt;
     CurrentX = x2;
     CurrentY = y2;
@@ -226,87 +230,105 @@ void PainterCanvas::Line(double x1, double y1, double x2, double y2, CanvasFarbe
 void PainterCanvas::Circle(double x, double y, double r, CanvasFarbe farbe) {
     const CanvasFarbe alt = ForeColor;
     if (farbe >= 0) ForeColor = farbe;
-    StiftUndPinsel(true);
+    Zeichnung z;
+    StiftUndPinsel(z, true);
     const int l = Px(x - r, m_tppX), t = Px(y - r, m_tppY), rr = Px(x + r, m_tppX), b = Px(y + r, m_tppY);
-    m_painter->drawEllipse(QRect(QPoint(l, t), QPoint(rr, b)).normalized());
+    z.art = Zeichnung::Art::Ellipse;
+    z.rechteck = QRect(QPoint(l, t), QPoint(rr, b)).normalized();
+    Ausgeben(std::move(z));
     ForeColor = alt;
     CurrentX = x;
     CurrentY = y;
 }
 
-const PainterCanvas::Zeichensatz& PainterCanvas::AktuelleSchrift(bool geraeteschrift) {
-    if (geraeteschrift && m_gewaehlteSchrift != 0) {
-        if (const LogFont* lf = m_objekte.Schrift(m_gewaehlteSchrift)) {
-            if (m_cacheHandle != m_gewaehlteSchrift || m_cacheExtra != m_zeichenabstand) {
-                m_geraeteSchrift.font = QtSchrift(*lf);
-                if (m_zeichenabstand != 0)
-                    m_geraeteSchrift.font.setLetterSpacing(QFont::AbsoluteSpacing, m_zeichenabstand);
-                const QFontMetrics fm(m_geraeteSchrift.font);
-                m_geraeteSchrift.ascent = fm.ascent();
-                m_geraeteSchrift.hoehe = fm.height();
-                m_geraeteSchrift.extra = m_zeichenabstand;
-                m_cacheHandle = m_gewaehlteSchrift;
-                m_cacheExtra = m_zeichenabstand;
-            }
-            return m_geraeteSchrift;
-        }
-    }
-    const int stil =
-        (FontBold ? 1 : 0) | (FontItalic ? 2 : 0) | (FontUnderline ? 4 : 0) | (FontStrikethru ? 8 : 0);
-    if (m_cacheBoxName != FontName || m_cacheBoxGroesse != FontSize || m_cacheBoxStil != stil ||
-        m_cacheBoxExtra != m_zeichenabstand) {
-        LogFont lf;
-        lf.lfFaceName = FontName;
-        lf.lfHeight = -gdi::Lng(FontSize * GetDeviceCaps(LOGPIXELSY) / 72.0);
-        if (lf.lfHeight == 0) lf.lfHeight = -1;
-        lf.lfWeight = FontBold ? 700 : 400;
-        lf.lfItalic = FontItalic;
-        lf.lfUnderline = FontUnderline;
-        lf.lfStrikeOut = FontStrikethru;
-        m_boxSchrift.font = QtSchrift(lf);
-        if (m_zeichenabstand != 0)
-            m_boxSchrift.font.setLetterSpacing(QFont::AbsoluteSpacing, m_zeichenabstand);
-        const QFontMetrics fm(m_boxSchrift.font);
-        m_boxSchrift.ascent = fm.ascent();
-        m_boxSchrift.hoehe = fm.height();
-        m_boxSchrift.extra = m_zeichenabstand;
-        m_cacheBoxName = FontName;
-        m_cacheBoxGroesse = FontSize;
-        m_cacheBoxStil = stil;
-        m_cacheBoxExtra = m_zeichenabstand;
-    }
-    return m_boxSchrift;
+const Zeichensatz& PainterCanvas::Schriftsatz(const LogFont& lf, int extra) {
+    for (const Schrifteintrag& e : m_schriften)
+        if (e.extra == extra && e.lf == lf) return e.satz;
+    if (m_schriften.size() >= 64) m_schriften.clear(); // a document with ever new sizes
+    Schrifteintrag e;
+    e.lf = lf;
+    e.extra = extra;
+    e.satz.font = QtSchrift(lf);
+    if (extra != 0) e.satz.font.setLetterSpacing(QFont::AbsoluteSpacing, extra);
+    const QFontMetrics fm(e.satz.font);
+    e.satz.ascent = fm.ascent();
+    e.satz.hoehe = fm.height();
+    e.satz.extra = extra;
+    e.satz.nummer = m_naechsteSchrift++;
+    m_schriften.push_back(std::move(e));
+    return m_schriften.back().satz;
 }
 
-void PainterCanvas::SchreibeText(int x, int y, const QString& text, const Zeichensatz& zs, double drehung) {
+const Zeichensatz& PainterCanvas::AktuelleSchrift(bool geraeteschrift) {
+    if (geraeteschrift && m_gewaehlteSchrift != 0)
+        if (const LogFont* lf = m_objekte.Schrift(m_gewaehlteSchrift))
+            return Schriftsatz(*lf, m_zeichenabstand);
+    LogFont lf;
+    lf.lfFaceName = FontName;
+    lf.lfHeight = -gdi::Lng(FontSize * GetDeviceCaps(LOGPIXELSY) / 72.0);
+    if (lf.lfHeight == 0) lf.lfHeight = -1;
+    lf.lfWeight = FontBold ? 700 : 400;
+    lf.lfItalic = FontItalic;
+    lf.lfUnderline = FontUnderline;
+    lf.lfStrikeOut = FontStrikethru;
+    return Schriftsatz(lf, m_zeichenabstand);
+}
+
+int PainterCanvas::Textbreite(const Zeichensatz& zs, const QString& text) {
+    if (text.isEmpty()) return 0;
+    const QPair<int, QString> schluessel(zs.nummer, text);
+    if (const auto it = m_breiten.constFind(schluessel); it != m_breiten.constEnd()) return *it;
+    if (m_breiten.size() >= 4096) m_breiten.clear();
+    const int breite = QFontMetrics(zs.font).horizontalAdvance(text);
+    m_breiten.insert(schluessel, breite);
+    return breite;
+}
+
+void PainterCanvas::Text(int x, int y, const QString& text, const Zeichensatz& zs, double drehung) {
     if (text.isEmpty()) return;
-    QPainter& p = *m_painter;
+    Zeichnung z;
+    z.art = Zeichnung::Art::Text;
+    z.text = text;
+    z.ort = QPoint(x, y);
+    z.drehung = drehung;
+    z.schrift = zs;
+    z.stift = QPen(QtFarbe(ForeColor));
+    z.pinsel = QBrush(Qt::NoBrush);
+    z.modus = DrawMode == 7 ? QPainter::RasterOp_SourceXorDestination : QPainter::CompositionMode_SourceOver;
+    if (!m_transparent) z.hintergrund = QtFarbe(BackColor);
+    Ausgeben(std::move(z));
+}
+
+void PainterCanvas::ZeichneText(QPainter& p, const Zeichnung& z) {
+    const Zeichensatz& zs = z.schrift;
     const QTransform alt = p.transform();
-    p.translate(x, y);
-    if (drehung != 0) p.rotate(-drehung); // counter-clockwise on a y-down device
-    p.setCompositionMode(DrawMode == 7 ? QPainter::RasterOp_SourceXorDestination
-                                       : QPainter::CompositionMode_SourceOver);
+    p.translate(z.ort);
+    if (z.drehung != 0) p.rotate(-z.drehung); // counter-clockwise on a y-down device
+    p.setCompositionMode(z.modus);
     p.setFont(zs.font);
-    if (!m_transparent) {
-        const QFontMetrics fm(zs.font);
-        p.fillRect(QRect(0, 0, fm.horizontalAdvance(text), zs.hoehe), QtFarbe(BackColor));
-    }
-    p.setPen(QtFarbe(ForeColor));
+    if (z.hintergrund) p.fillRect(QRect(0, 0, Textbreite(zs, z.text), zs.hoehe), *z.hintergrund);
+    p.setPen(z.stift);
     if (zs.font.underline() || zs.font.strikeOut()) {
-        p.drawText(0, zs.ascent, text);
+        p.drawText(0, zs.ascent, z.text);
     } else {
-        // The same string in the same font comes a hundred times in a row for shadows and
-        // gradients: shape it once.
-        if (!m_satz || m_satz->text() != text || m_satzFont != zs.font) {
-            m_satz = std::make_unique<QTextLayout>(text, zs.font);
-            m_satz->setCacheEnabled(true);
-            m_satz->beginLayout();
-            QTextLine zeile = m_satz->createLine();
+        // Shaped once per font and string: calendars and effects draw the same strings often.
+        const QPair<int, QString> schluessel(zs.nummer, z.text);
+        std::shared_ptr<QTextLayout>& satz = m_saetze[schluessel];
+        if (!satz) {
+            if (m_saetze.size() > 2048) {
+                m_saetze.clear();
+                ZeichneText(p, z);
+                return;
+            }
+            satz = std::make_shared<QTextLayout>(z.text, zs.font);
+            satz->setCacheEnabled(true);
+            satz->beginLayout();
+            QTextLine zeile = satz->createLine();
             zeile.setPosition(QPointF(0, 0));
-            m_satz->endLayout();
-            m_satzFont = zs.font;
+            satz->endLayout();
         }
-        m_satz->draw(&p, QPointF(0, 0));
+        const std::shared_ptr<QTextLayout> halten = satz;
+        halten->draw(&p, QPointF(0, 0));
     }
     p.setTransform(alt);
 }
@@ -317,15 +339,15 @@ void PainterCanvas::Print(const QString& text) {
     double drehung = 0;
     if (geraet)
         if (const LogFont* lf = m_objekte.Schrift(m_gewaehlteSchrift)) drehung = lf->lfEscapement / 10.0;
-    SchreibeText(Px(CurrentX, m_tppX), Px(CurrentY, m_tppY), text, zs, drehung);
+    const int hoehe = zs.hoehe;
+    Text(Px(CurrentX, m_tppX), Px(CurrentY, m_tppY), text, zs, drehung);
     CurrentX = 0;
-    CurrentY += zs.hoehe * m_tppY;
+    CurrentY += hoehe * m_tppY;
 }
 
 double PainterCanvas::TextWidth(const QString& text) {
     if (text.isEmpty()) return 0;
-    const QFontMetrics fm(AktuelleSchrift(false).font);
-    return fm.horizontalAdvance(text) * m_tppX;
+    return Textbreite(AktuelleSchrift(false), text) * m_tppX;
 }
 
 double PainterCanvas::TextHeight(const QString&) {
@@ -335,6 +357,7 @@ double PainterCanvas::TextHeight(const QString&) {
 // ---- Device context ----------------------------------------------------------------------------
 
 void PainterCanvas::SetWindowOrgEx(int x, int y) {
+    StufenAusgeben();
     m_ursprung = QPoint(x, y);
     ZustandWiederherstellen();
 }
@@ -361,8 +384,7 @@ void PainterCanvas::DeleteObject(GdiHandle handle) {
 
 QSize PainterCanvas::GetTextExtentPoint32A(const QString& text) {
     const Zeichensatz& zs = AktuelleSchrift(true);
-    const QFontMetrics fm(zs.font);
-    return QSize(text.isEmpty() ? 0 : fm.horizontalAdvance(text), zs.hoehe);
+    return QSize(Textbreite(zs, text), zs.hoehe);
 }
 
 int PainterCanvas::GetDeviceCaps(int index) const {
@@ -386,83 +408,103 @@ void PainterCanvas::TextOutA(int x, int y, const QString& text) {
     const Zeichensatz& zs = AktuelleSchrift(true);
     double drehung = 0;
     if (const LogFont* lf = m_objekte.Schrift(m_gewaehlteSchrift)) drehung = lf->lfEscapement / 10.0;
-    SchreibeText(x, y, text, zs, drehung);
+    Text(x, y, text, zs, drehung);
 }
 
 GdiHandle PainterCanvas::CreateRectRgn(int left, int top, int right, int bottom) {
-    return m_objekte.NeueRegion(RechteckRegion(left, top, right, bottom));
+    return m_objekte.NeueRegion(Clipflaeche::Rechteck(left, top, right, bottom));
 }
 
 GdiHandle PainterCanvas::CreatePolygonRgn(const std::vector<QPoint>& points, PolyFillMode mode) {
-    if (points.size() < 3) return m_objekte.NeueRegion(QRegion());
-    return m_objekte.NeueRegion(
-        QRegion(AlsPolygon(points), mode == PolyFillMode::Winding ? Qt::WindingFill : Qt::OddEvenFill));
+    return m_objekte.NeueRegion(Clipflaeche::Vieleck(
+        AlsPolygon(points), mode == PolyFillMode::Winding ? Qt::WindingFill : Qt::OddEvenFill));
 }
 
 void PainterCanvas::SelectClipRgn(GdiHandle region) {
     if (region == 0) {
         m_clip.reset();
-    } else if (const QRegion* r = m_objekte.Region(region)) {
+    } else if (const Clipflaeche* r = m_objekte.Region(region)) {
         m_clip = *r; // the device keeps a copy: freeing the handle later leaves the clip
     } else {
         return;
     }
-    ClipAnwenden();
+    if (!m_stufenOffen) ClipAnwenden(); // a run gives each kept drawing its own clip
 }
 
 void PainterCanvas::OffsetClipRgn(int dx, int dy) {
     if (!m_clip) return;
-    m_clip->translate(dx, dy);
-    ClipAnwenden();
+    m_clip->Verschiebe(dx, dy);
+    if (!m_stufenOffen) ClipAnwenden();
 }
 
 void PainterCanvas::ClipAnwenden() {
+    ClipSetzen(m_clip);
+}
+
+void PainterCanvas::ClipSetzen(const std::optional<Clipflaeche>& clip) {
     QPainter& p = *m_painter;
     if (!p.isActive()) return;
-    if (!m_clip) {
+    if (!clip) {
         p.setClipping(false);
         return;
     }
     // The clip lies in device pixels; the painter's coordinates are moved by the window origin.
-    if (m_clip->isEmpty())
+    if (clip->IstLeer())
         p.setClipRect(QRect(m_ursprung.x() - 4, m_ursprung.y() - 4, 1, 1)); // outside: draws nothing
+    else if (clip->IstRechteck())
+        p.setClipRect(clip->Umriss().translated(m_ursprung));
     else
-        p.setClipRegion(m_clip->translated(m_ursprung));
+        p.setClipRegion(clip->Region().translated(m_ursprung));
 }
 
 void PainterCanvas::Polyline(const std::vector<QPoint>& points) {
     if (points.size() < 2) return;
-    StiftUndPinsel(false);
-    m_painter->drawPolyline(AlsPolygon(points));
+    Zeichnung z;
+    StiftUndPinsel(z, false);
+    z.art = Zeichnung::Art::Linienzug;
+    z.punkte = AlsPolygon(points);
+    Ausgeben(std::move(z));
 }
 
 void PainterCanvas::Polygon(const std::vector<QPoint>& points) {
     if (points.size() < 2) return;
-    StiftUndPinsel(true);
-    m_painter->drawPolygon(AlsPolygon(points), Qt::OddEvenFill);
+    Zeichnung z;
+    StiftUndPinsel(z, true);
+    z.art = Zeichnung::Art::Vieleck;
+    z.punkte = AlsPolygon(points);
+    Ausgeben(std::move(z));
 }
 
 void PainterCanvas::Rectangle(int left, int top, int right, int bottom) {
-    StiftUndPinsel(true);
+    Zeichnung z;
+    StiftUndPinsel(z, true);
     const QRect r = QRect(QPoint(left, top), QPoint(right, bottom)).normalized();
     if (r.width() <= 1 || r.height() <= 1) return; // the device draws nothing for an empty box
     // Pen and brush together cover the pixels from left/top up to, not including, right/bottom.
-    if (m_painter->pen().style() == Qt::NoPen) {
-        if (FillStyle != 1) m_painter->fillRect(r.adjusted(0, 0, -1, -1), m_painter->brush());
-        return;
+    if (z.stift.style() == Qt::NoPen) {
+        if (FillStyle == 1) return;
+        z.art = Zeichnung::Art::Flaeche;
+        z.rechteck = r.adjusted(0, 0, -1, -1);
+    } else {
+        z.art = Zeichnung::Art::Rahmen;
+        z.rechteck = r.adjusted(0, 0, -2, -2);
     }
-    m_painter->drawRect(r.adjusted(0, 0, -2, -2));
+    Ausgeben(std::move(z));
 }
 
 void PainterCanvas::Ellipse(int left, int top, int right, int bottom) {
-    StiftUndPinsel(true);
+    Zeichnung z;
+    StiftUndPinsel(z, true);
     const QRect r = QRect(QPoint(left, top), QPoint(right, bottom)).normalized();
     if (r.width() <= 1 || r.height() <= 1) return;
-    m_painter->drawEllipse(r.adjusted(0, 0, -2, -2));
+    z.art = Zeichnung::Art::Ellipse;
+    z.rechteck = r.adjusted(0, 0, -2, -2);
+    Ausgeben(std::move(z));
 }
 
 void PainterCanvas::RenderBild(const QImage& bild, const QRectF& twips) {
     if (bild.isNull()) return;
+    StufenAusgeben();
     const QRect ziel(QPoint(Px(twips.left(), m_tppX), Px(twips.top(), m_tppY)),
                      QPoint(Px(twips.right(), m_tppX) - 1, Px(twips.bottom(), m_tppY) - 1));
     if (ziel.width() <= 0 || ziel.height() <= 0) return;
@@ -470,6 +512,156 @@ void PainterCanvas::RenderBild(const QImage& bild, const QRectF& twips) {
     m_painter->setRenderHint(QPainter::SmoothPixmapTransform, true);
     m_painter->drawImage(ziel, bild);
     m_painter->setRenderHint(QPainter::SmoothPixmapTransform, false);
+}
+
+// ---- Drawing and stepped effects ---------------------------------------------------------------
+
+void PainterCanvas::Ausgeben(Zeichnung z) {
+    if (m_stufenOffen) {
+        if (m_stufen.empty()) m_stufen.emplace_back();
+        z.clip = m_clip;
+        m_stufen.back().push_back(std::move(z));
+        return;
+    }
+    Zeichne(*m_painter, z);
+}
+
+namespace {
+// A box with a plain one-pixel pen as five filled rectangles, the pixels the painter's outline
+// would set: a calendar page has hundreds of day boxes, and the painter strokes each outline.
+bool RahmenAlsFlaechen(QPainter& p, const Zeichnung& z) {
+    if (z.stift.style() != Qt::SolidLine || z.stift.width() > 1 ||
+        z.modus != QPainter::CompositionMode_SourceOver || p.testRenderHint(QPainter::Antialiasing) ||
+        p.transform().type() > QTransform::TxTranslate)
+        return false;
+    const QRect aussen(z.rechteck.topLeft(), QSize(z.rechteck.width() + 1, z.rechteck.height() + 1));
+    if (aussen.width() <= 0 || aussen.height() <= 0) return false;
+    const QColor farbe = z.stift.color();
+    if (aussen.width() <= 2 || aussen.height() <= 2) {
+        p.fillRect(aussen, farbe);
+        return true;
+    }
+    if (z.pinsel.style() != Qt::NoBrush) p.fillRect(aussen.adjusted(1, 1, -1, -1), z.pinsel);
+    p.fillRect(QRect(aussen.left(), aussen.top(), aussen.width(), 1), farbe);
+    p.fillRect(QRect(aussen.left(), aussen.bottom(), aussen.width(), 1), farbe);
+    p.fillRect(QRect(aussen.left(), aussen.top() + 1, 1, aussen.height() - 2), farbe);
+    p.fillRect(QRect(aussen.right(), aussen.top() + 1, 1, aussen.height() - 2), farbe);
+    return true;
+}
+} // namespace
+
+void PainterCanvas::Zeichne(QPainter& p, const Zeichnung& z) {
+    if (!p.isActive()) return;
+    if (z.art == Zeichnung::Art::Text) {
+        ZeichneText(p, z);
+        return;
+    }
+    p.setCompositionMode(z.modus);
+    switch (z.art) {
+    case Zeichnung::Art::Flaeche:
+        p.fillRect(z.rechteck, z.pinsel);
+        break;
+    case Zeichnung::Art::Rahmen:
+        if (RahmenAlsFlaechen(p, z)) break;
+        p.setPen(z.stift);
+        p.setBrush(z.pinsel);
+        p.drawRect(z.rechteck);
+        break;
+    case Zeichnung::Art::Ellipse:
+        p.setPen(z.stift);
+        p.setBrush(z.pinsel);
+        p.drawEllipse(z.rechteck);
+        break;
+    case Zeichnung::Art::Vieleck:
+        p.setPen(z.stift);
+        p.setBrush(z.pinsel);
+        p.drawPolygon(z.punkte, Qt::OddEvenFill);
+        break;
+    case Zeichnung::Art::Linienzug:
+        p.setPen(z.stift);
+        p.setBrush(Qt::NoBrush);
+        p.drawPolyline(z.punkte);
+        break;
+    case Zeichnung::Art::Text:
+        break;
+    }
+}
+
+void PainterCanvas::NeueStufe() {
+    if (!m_stufenSparen) return;
+    m_stufenOffen = true;
+    m_stufen.emplace_back();
+}
+
+void PainterCanvas::StufenEnde() {
+    StufenAusgeben();
+    m_stufenOffen = false;
+}
+
+void PainterCanvas::StufenAusgeben() {
+    if (m_stufen.empty()) return;
+    const std::vector<Stufe> stufen = std::move(m_stufen);
+    m_stufen.clear();
+    if (const std::optional<Schichtplan> plan = AlsSchicht(stufen);
+        !plan || !AlsSchichtZeichnen(stufen, *plan)) {
+        std::optional<Clipflaeche> gesetzt = m_clip;
+        bool ersteZeichnung = true;
+        for (size_t k = 0; k < stufen.size(); ++k) {
+            if (k + 1 < stufen.size() && Ueberdeckt(stufen[k + 1], stufen[k])) continue;
+            for (const Zeichnung& z : stufen[k]) {
+                if (ersteZeichnung || !(gesetzt == z.clip)) ClipSetzen(z.clip);
+                gesetzt = z.clip;
+                ersteZeichnung = false;
+                Zeichne(*m_painter, z);
+            }
+        }
+    }
+    ClipAnwenden();
+}
+
+bool PainterCanvas::AlsSchichtZeichnen(const std::vector<Stufe>& stufen, const Schichtplan& plan) {
+    // Only on a picture: on the printer the figure stays drawn as lines and letters.
+    QPainter& p = *m_painter;
+    const QPaintDevice* geraet = p.device();
+    if (!geraet || geraet->devType() != QInternal::Image) return false;
+    const QRect flaeche = plan.umriss & QRect(0, 0, geraet->width(), geraet->height());
+    if (flaeche.isEmpty()) return true;            // every clip lies off the picture
+    constexpr qint64 kGroessteSchicht = 4'000'000; // pixels; beyond, drawing step by step costs less memory
+    if (static_cast<qint64>(flaeche.width()) * flaeche.height() > kGroessteSchicht) return false;
+
+    // The figure's coverage, drawn once in black.
+    QImage maske(flaeche.size(), QImage::Format_ARGB32_Premultiplied);
+    maske.fill(Qt::transparent);
+    {
+        QPainter m(&maske);
+        m.setRenderHints(p.renderHints());
+        m.translate(-flaeche.topLeft() - m_ursprung);
+        for (Zeichnung z : stufen.back()) {
+            if (z.stift.style() != Qt::NoPen) z.stift.setColor(Qt::black);
+            if (z.pinsel.style() != Qt::NoBrush) z.pinsel.setColor(Qt::black);
+            Zeichne(m, z);
+        }
+    }
+    // Every pixel in the colour of the last step whose clip holds it, then cut to the figure.
+    QImage baender(flaeche.size(), QImage::Format_ARGB32_Premultiplied);
+    baender.fill(Qt::transparent);
+    {
+        QPainter b(&baender);
+        b.translate(-flaeche.topLeft());
+        b.setCompositionMode(QPainter::CompositionMode_Source);
+        for (size_t k = 0; k < plan.farben.size(); ++k)
+            plan.flaechen[k]->Fuelle(b, plan.farben[k]);
+        b.resetTransform();
+        b.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+        b.drawImage(0, 0, maske);
+    }
+    const QTransform alt = p.transform();
+    p.resetTransform();
+    p.setClipping(false);
+    p.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    p.drawImage(flaeche.topLeft(), baender);
+    p.setTransform(alt);
+    return true;
 }
 
 } // namespace zp

@@ -4,13 +4,18 @@
 // pixel of the device. The image canvas and the printer canvas are built on it.
 
 #include "compose/GdiObjekte.h"
+#include "compose/Stufenplan.h"
+#include "compose/Zeichnung.h"
 #include "compose/canvas.h"
 
 #include <QFont>
+#include <QHash>
 #include <QPainter>
 #include <QTextLayout>
+#include <deque>
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace zp {
 
@@ -61,7 +66,13 @@ public:
     void Rectangle(int left, int top, int right, int bottom) override;
     void Ellipse(int left, int top, int right, int bottom) override;
 
+    void NeueStufe() override;
+    void StufenEnde() override;
+
     void RenderBild(const QImage& bild, const QRectF& twips) override;
+
+    // Stepped effects are drawn step by step as they come, leaving nothing out (for comparisons).
+    void SetzeStufenSparen(bool sparen) { m_stufenSparen = sparen; }
 
     // The QFont that a logical font record stands for on this device.
     [[nodiscard]] static QFont QtSchrift(const LogFont& font);
@@ -77,19 +88,26 @@ protected:
     void ZustandWiederherstellen();
 
 private:
-    struct Zeichensatz {
-        QFont font;
-        int ascent = 0;
-        int hoehe = 0;
-        int extra = 0;
-    };
     void Einrichten();
     [[nodiscard]] int Px(double twips, double tpp) const;
-    void StiftUndPinsel(bool mitPinsel);
+    // Pen, brush and composition of a figure drawn now, from the picture-box properties.
+    void StiftUndPinsel(Zeichnung& z, bool mitPinsel) const;
     // The font of Print and TextOutA: the selected device font, else the picture-box font.
     const Zeichensatz& AktuelleSchrift(bool geraeteschrift);
-    void SchreibeText(int x, int y, const QString& text, const Zeichensatz& zs, double drehung);
+    const Zeichensatz& Schriftsatz(const LogFont& lf, int extra);
+    [[nodiscard]] int Textbreite(const Zeichensatz& zs, const QString& text);
+    void Text(int x, int y, const QString& text, const Zeichensatz& zs, double drehung);
+
+    // Draws now, or keeps it for the step it belongs to.
+    void Ausgeben(Zeichnung z);
+    void Zeichne(QPainter& p, const Zeichnung& z);
+    void ZeichneText(QPainter& p, const Zeichnung& z);
+    // Draws what the steps kept, leaving out what later steps cover.
+    void StufenAusgeben();
+    // The run as one figure coloured by bands, on a picture of its own laid over the page.
+    bool AlsSchichtZeichnen(const std::vector<Stufe>& stufen, const Schichtplan& plan);
     void ClipAnwenden();
+    void ClipSetzen(const std::optional<Clipflaeche>& clip);
 
     std::unique_ptr<QPainter> m_eigenerMaler;
     QPainter* m_painter = nullptr;
@@ -100,20 +118,25 @@ private:
     int m_zeichenabstand = 0;
     GdiObjekte m_objekte;
     GdiHandle m_gewaehlteSchrift = 0;
-    std::optional<QRegion> m_clip;
+    std::optional<Clipflaeche> m_clip;
 
-    // Caches: the font of the selected handle and of the picture-box properties, and the last
-    // laid-out string, since shadows and gradients draw the same text a hundred times.
-    GdiHandle m_cacheHandle = 0;
-    int m_cacheExtra = -1;
-    Zeichensatz m_geraeteSchrift;
-    QString m_cacheBoxName;
-    double m_cacheBoxGroesse = -1;
-    int m_cacheBoxStil = -1;
-    int m_cacheBoxExtra = -1;
-    Zeichensatz m_boxSchrift;
-    std::unique_ptr<QTextLayout> m_satz;
-    QFont m_satzFont;
+    // Stepped effects: the steps kept so far while a run is open.
+    bool m_stufenSparen = true;
+    bool m_stufenOffen = false;
+    std::vector<Stufe> m_stufen;
+
+    // Fonts by their logical record, and measures and laid-out strings by font and text: a
+    // calendar page sets the same few fonts and strings again and again, and shadows and
+    // gradients draw the same text a hundred times.
+    struct Schrifteintrag {
+        LogFont lf;
+        int extra = 0;
+        Zeichensatz satz;
+    };
+    std::deque<Schrifteintrag> m_schriften;
+    int m_naechsteSchrift = 1;
+    QHash<QPair<int, QString>, int> m_breiten;
+    QHash<QPair<int, QString>, std::shared_ptr<QTextLayout>> m_saetze;
 };
 
 } // namespace zp

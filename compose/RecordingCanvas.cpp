@@ -172,7 +172,7 @@ void RecordingCanvas::TextOutA(int x, int y, const QString& text) {
 }
 
 GdiHandle RecordingCanvas::CreateRectRgn(int left, int top, int right, int bottom) {
-    const GdiHandle h = m_objekte.NeueRegion(RechteckRegion(left, top, right, bottom));
+    const GdiHandle h = m_objekte.NeueRegion(Clipflaeche::Rechteck(left, top, right, bottom));
     Neu("CreateRectRgn", {left, top, right, bottom, h});
     return h;
 }
@@ -182,8 +182,7 @@ GdiHandle RecordingCanvas::CreatePolygonRgn(const std::vector<QPoint>& points, P
     for (const QPoint& q : points)
         p.append(q);
     const GdiHandle h = m_objekte.NeueRegion(
-        points.size() < 3 ? QRegion()
-                          : QRegion(p, mode == PolyFillMode::Winding ? Qt::WindingFill : Qt::OddEvenFill));
+        Clipflaeche::Vieleck(p, mode == PolyFillMode::Winding ? Qt::WindingFill : Qt::OddEvenFill));
     Neu("CreatePolygonRgn", {static_cast<int>(mode), h}).Punkte = points;
     return h;
 }
@@ -191,8 +190,8 @@ GdiHandle RecordingCanvas::CreatePolygonRgn(const std::vector<QPoint>& points, P
 void RecordingCanvas::SelectClipRgn(GdiHandle region) {
     if (region == 0)
         m_clip.reset();
-    else if (const QRegion* r = m_objekte.Region(region))
-        m_clip = *r;
+    else if (const Clipflaeche* r = m_objekte.Region(region))
+        m_clip = r->Region();
     Neu("SelectClipRgn", {region});
 }
 

@@ -46,6 +46,8 @@ struct LogFont {
     uint8_t lfQuality = 0;
     uint8_t lfPitchAndFamily = 0;
     QString lfFaceName;
+
+    friend bool operator==(const LogFont&, const LogFont&) = default;
 };
 
 // Handles of fonts and regions, as the device context hands them out; 0 is no object.
@@ -131,6 +133,14 @@ public:
     virtual void Polygon(const std::vector<QPoint>& points) = 0; // alternate fill
     virtual void Rectangle(int left, int top, int right, int bottom) = 0;
     virtual void Ellipse(int left, int top, int right, int bottom) = 0;
+
+    // ---- Stepped effects ------------------------------------------------------------------------
+    // Shadows and gradients draw one figure again and again, each step over the one before, in
+    // another colour, at another place or through another clip. NeueStufe opens the next step,
+    // StufenEnde closes the run. A canvas may use the marks to leave out what a later step covers
+    // anyway; drawing every step as it comes is always right, so the marks may be ignored.
+    virtual void NeueStufe() {}
+    virtual void StufenEnde() {}
 
     // ---- Pictures -----------------------------------------------------------------------------
     // The imaging control's Render: the bitmap stretched to the rectangle, given in twips.

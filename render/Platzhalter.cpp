@@ -39,6 +39,7 @@ QString ErsetzePlatzhalter(AppState& s, QString text, const QDateTime& jetzt) {
 }
 
 QString ErsetzePlatzhalter(AppState& s, QString text) {
+    if (!text.contains(QLatin1Char('#'))) return text; // no keyword: spare asking for the clock
     return ErsetzePlatzhalter(s, std::move(text), QDateTime::currentDateTime());
 }
 

@@ -40,10 +40,12 @@ void ZeichneTextschatten(AppState& s, Canvas& ziel, const ClassSchrift& schrift,
     const Farbanteile nah = Zerlege(schrift.ShadowColor1);
     const Farbanteile fern = Zerlege(schrift.ShadowColor2);
     for (int i = 1; i <= n; ++i) {
+        ziel.NeueStufe();
         ziel.CurrentX = (lage.X0 + dx - (dx / n) * i) * Z * F;
         ziel.CurrentY = (lage.Y0 + dy - (dy / n) * i) * Z * F;
         GibTextAus(s, ziel, lage, Stufenfarbe(fern, nah, i, n));
     }
+    ziel.StufenEnde();
 }
 
 void ZeichneTextverlauf(AppState& s, Canvas& ziel, const ClassSchrift& schrift, const Textlage& lage) {
@@ -100,6 +102,7 @@ void ZeichneTextverlauf(AppState& s, Canvas& ziel, const ClassSchrift& schrift, 
     const Farbanteile von = Zerlege(schrift.Color1);
     const Farbanteile nach = Zerlege(schrift.Color2);
     for (int i = 1; i <= n; ++i) {
+        ziel.NeueStufe();
         ziel.CurrentX = lage.X0 * Z * F;
         ziel.CurrentY = lage.Y0 * Z * F;
         GibTextAus(s, ziel, lage, Stufenfarbe(von, nach, i, n));
@@ -124,6 +127,7 @@ void ZeichneTextverlauf(AppState& s, Canvas& ziel, const ClassSchrift& schrift, 
             if (versetzt) ziel.OffsetClipRgn(versatzX, versatzY);
         }
     }
+    ziel.StufenEnde();
     ziel.SelectClipRgn(0);
     if (region != 0) ziel.DeleteObject(region);
 }

@@ -118,11 +118,13 @@ void ZeichneLinie(AppState& s, Canvas& ziel, ClassLinie& linie, ClassRahmen& rah
             const Farbanteile nah = Zerlege(linie.ShadowColor1);
             const Farbanteile fern = Zerlege(linie.ShadowColor2);
             for (int i = 1; i <= n; ++i) {
+                ziel.NeueStufe();
                 g.DX = D * std::sin(t) - (D * std::sin(t) / n) * i;
                 g.DY = D * std::cos(t) - (D * std::cos(t) / n) * i;
                 ziel.ForeColor = ziel.FillColor = Stufenfarbe(fern, nah, i, n);
                 FormZeichnen(ziel, linie, rahmen, g);
             }
+            ziel.StufenEnde();
         }
     }
 
@@ -142,6 +144,7 @@ void ZeichneLinie(AppState& s, Canvas& ziel, ClassLinie& linie, ClassRahmen& rah
         const Farbanteile nach = Zerlege(linie.Color2);
         const bool versetzt = s.DruckversatzX != 0 || s.DruckversatzY != 0;
         for (int i = 0; i <= n; ++i) {
+            ziel.NeueStufe();
             ziel.ForeColor = ziel.FillColor = Stufenfarbe(von, nach, i, n);
             const Band b = Bandrechteck(linie, rahmen, g, i, n);
             const GdiHandle region =
@@ -153,6 +156,7 @@ void ZeichneLinie(AppState& s, Canvas& ziel, ClassLinie& linie, ClassRahmen& rah
             FormZeichnen(ziel, linie, rahmen, g);
             ziel.DeleteObject(region);
         }
+        ziel.StufenEnde();
         ziel.SelectClipRgn(0);
     }
     // Any other gradient kind leaves the shape undrawn: only its shadow shows.

@@ -17,10 +17,11 @@ constexpr uint8_t kStandardZeichensatz = 1; // the device's default character se
 // The character set of the font list's row with the same trimmed name; a font the list doesn't
 // know (a design from another machine) takes the default set.
 uint8_t Zeichensatz(const AppState& s, const QString& fontname) {
-    const QString name = fontname.trimmed();
+    // Views, not copies: every text of a calendar page looks its font up in a list of hundreds.
+    const QStringView name = QStringView(fontname).trimmed();
     const int grenze = std::min(s.Schriftenliste.Obergrenze(), s.Schriftzeichensatz.Obergrenze());
     for (int k = 0; k <= grenze; ++k)
-        if (s.Schriftenliste(k).trimmed() == name) return s.Schriftzeichensatz(k);
+        if (QStringView(s.Schriftenliste(k)).trimmed() == name) return s.Schriftzeichensatz(k);
     return kStandardZeichensatz;
 }
 

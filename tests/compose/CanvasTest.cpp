@@ -178,3 +178,31 @@ TEST(RecordingCanvas, ProtokolliertGeraetekoordinatenUndZustand) {
     c.DeleteObject(r);
     EXPECT_EQ(c.OffeneObjekte(), 0u);
 }
+
+// Boxes with a plain one-pixel pen are filled, not stroked: they must set the pixels the
+// painter's own outline sets, whatever the size and brush.
+TEST(ImageCanvas, KastenMitEinemPixelStiftGleichtDemUmrissDesMalers) {
+    for (int breite = 2; breite <= 7; ++breite)
+        for (int hoehe : {2, 3, 5, 9})
+            for (int fuellung : {0, 1, 4}) {
+                ImageCanvas c(QSize(20, 20));
+                c.ForeColor = Blau;
+                c.FillColor = Rot;
+                c.FillStyle = fuellung;
+                c.Rectangle(3, 4, 3 + breite, 4 + hoehe);
+
+                QImage erwartet(20, 20, QImage::Format_RGB32);
+                erwartet.fill(Qt::white);
+                QPainter p(&erwartet);
+                QPen stift(Qt::blue);
+                stift.setCapStyle(Qt::FlatCap);
+                stift.setJoinStyle(Qt::MiterJoin);
+                p.setPen(stift);
+                p.setBrush(fuellung == 1
+                               ? QBrush(Qt::NoBrush)
+                               : QBrush(Qt::red, fuellung == 0 ? Qt::SolidPattern : Qt::BDiagPattern));
+                p.drawRect(QRect(QPoint(3, 4), QPoint(3 + breite, 4 + hoehe)).adjusted(0, 0, -2, -2));
+                p.end();
+                EXPECT_EQ(c.Bild(), erwartet) << breite << "x" << hoehe << " Füllung " << fuellung;
+            }
+}
