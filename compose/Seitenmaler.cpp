@@ -8,6 +8,7 @@
 namespace zp {
 
 void LeinwandGrundzustand(Canvas& c) {
+    c.StufenEnde(); // a run of steps cut short by an error is closed, not carried on
     c.ForeColor = 0;
     c.FillColor = 0;
     c.BackColor = 0xFFFFFF;

@@ -15,7 +15,8 @@ class ImageCanvas;
 
 // The picture-box properties and device settings of a canvas back to those of a new one. A
 // redraw clears the picture itself, but a clip region, a window origin, a selected font or pen
-// settings left from the last redraw would otherwise cut, move or colour the next one.
+// settings left from the last redraw would otherwise cut, move or colour the next one, and an
+// open run of stepped drawings would hold back its output.
 void LeinwandGrundzustand(Canvas& c);
 
 class Seitenmaler {

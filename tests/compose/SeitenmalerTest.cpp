@@ -142,6 +142,8 @@ TEST(Seitenmaler, GrundzustandNimmtClipUrsprungSchriftUndStiftZurueck) {
     // gives the picture of a new canvas.
     const QSize groesse(240, 160);
     ImageCanvas alt(groesse), neu(groesse);
+    alt.NeueStufe(); // a shadow whose drawing was cut short
+    alt.Line(0, 0, 3000, 2000);
     const GdiHandle clip = alt.CreateRectRgn(0, 0, 20, 20);
     alt.SelectClipRgn(clip);
     alt.SetWindowOrgEx(-40, 30);
