@@ -70,32 +70,6 @@ TEST(Seitenmaler, BildNachEinerAenderungGleichtDemEinerNeuenLeinwand) {
     }
 }
 
-TEST(Seitenmaler, WechselDerSeiteOhneNeueGroesseLaesstNichtsZurueck) {
-    // A letterhead sheet with help areas, grid and selection marks leaves colours, fonts and pen
-    // settings on the canvas; the calendar drawn next on the same-sized canvas must not see them.
-    AppState s;
-    s.IstBriefkopf = -1;
-    s.AktuelleSeite.Breite = 2100;
-    s.AktuelleSeite.Höhe = 2970;
-    s.Zoomfaktor = 60;
-    s.HilfsbereicheAn = -1;
-    s.GridAn = -1;
-    s.Rasterhoehe = s.Rasterbreite = 300;
-    s.Auswahlmodus = 0;
-    s.Rahmen = {300, 400, 900, 600};
-    Seitenmaler maler;
-    const QImage brief = maler.Zeichne(s);
-    EXPECT_EQ(Unterschiede(brief, NeuesBild(s)), 0);
-
-    Kalender(s, 4, 1, 3);
-    s.GridAn = 0;
-    s.HilfsbereicheAn = 0;
-    s.Auswahlmodus = 1;
-    const QImage kalender = maler.Zeichne(s);
-    ASSERT_EQ(kalender.size(), brief.size()) << "the case needs the kept canvas";
-    EXPECT_EQ(Unterschiede(kalender, NeuesBild(s)), 0);
-}
-
 TEST(Seitenmaler, ZoomOderSeitenformatGibtDieNeueGroesse) {
     AppState s;
     Kalender(s, 4, 2, 1);
