@@ -1,27 +1,20 @@
 #include "KalenderLauf.h"
 
+#include "Monatstafel.h"
 #include "Tagesdaten.h"
 #include "core/AppState.h"
-#include "core/runtime/Basic.h"
 
 namespace zp {
-
-using basic::DateSerial;
-using basic::Weekday;
 
 namespace {
 
 enum Typ { Halbjahr = 1, JahrA5 = 2, Tasche = 3, Monat1 = 4, Monat2 = 5, Woche = 6, Planer = 7 };
 constexpr int kSonntag = 1, kMontag = 2, kSamstag = 7;
 
-int Wochentag(int jahr, int m, int d) {
-    return Weekday(DateSerial(jahr, m, d));
-}
-
 // Days from Monday to the first of month m: the weekday of day d (0 is the last day of the
 // month before), Sunday counted 1, less one; a Sunday before the first gives 0, a Saturday 6.
-int ErsterTagVersatz(int jahr, int m, int d) {
-    int t = Wochentag(jahr, m, d) - 1;
+int ErsterTagVersatz(const Monatstafel& tafel, int m, int d) {
+    int t = tafel.Wochentag(m, d) - 1;
     if (t < 0) t = 6;
     return t;
 }
@@ -50,7 +43,8 @@ void Spiegelpunkt(const AppState& s, const ClassRahmen& T, ClassRahmen& A, bool 
 // Tasche: the first day cell of month m. January to June stand in the upper band, July to
 // December in the lower one; the cell moves down to the month's first weekday. Returns that
 // weekday offset.
-int TascheMonatsanfang(const AppState& s, const ClassRahmen& T, ClassRahmen& A, int jahr, int m, double H) {
+int TascheMonatsanfang(const AppState& s, const ClassRahmen& T, ClassRahmen& A, const Monatstafel& tafel,
+                       int m, double H) {
     if (m < 7) {
         A.Y = T.Y;
         A.X = (m - 1) * s.Spaltenabstand + T.X;
@@ -59,7 +53,7 @@ int TascheMonatsanfang(const AppState& s, const ClassRahmen& T, ClassRahmen& A, 
         A.X = (m - 7) * s.Spaltenabstand + T.X;
     }
     if (m == 7) A.X = T.X;
-    const int t = ErsterTagVersatz(jahr, m, 0);
+    const int t = ErsterTagVersatz(tafel, m, 0);
     A.Y += H * t;
     return t;
 }
@@ -89,26 +83,33 @@ int Seitenanzahl(int kalendertyp) {
     return (kalendertyp >= 1 && kalendertyp <= 7) ? seiten[kalendertyp] : 1;
 }
 
-void Wochenstart(int jahr, int seite, double& wocheTag, double& wocheMonat) {
-    wocheTag = 0;
-    wocheMonat = 1;
-    if (!JahrGueltig(jahr)) return;
-    for (int p = 1; p <= seite - 1; ++p)
-        NaechsteWoche(jahr, p, wocheTag, wocheMonat);
-}
-
-void NaechsteWoche(int jahr, int seite, double& wocheTag, double& wocheMonat) {
+namespace {
+void NaechsteWoche(const Monatstafel& tafel, int seite, double& wocheTag, double& wocheMonat) {
     // The first page ends on the first Sunday of the year: it holds the rest of the week that
     // began in December, so only the days up to that Sunday are stepped over.
-    int t = seite <= 1 ? ErsterTagVersatz(jahr, 1, 0) : 0;
+    int t = seite <= 1 ? ErsterTagVersatz(tafel, 1, 0) : 0;
     while (t != 7) {
         ++t;
         wocheTag += 1;
-        if (wocheTag == LetzterTag(jahr, static_cast<int>(wocheMonat))) {
+        if (wocheTag == tafel.LetzterTag(static_cast<int>(wocheMonat))) {
             wocheTag = 0;
             wocheMonat += 1;
         }
     }
+}
+} // namespace
+
+void Wochenstart(int jahr, int seite, double& wocheTag, double& wocheMonat) {
+    wocheTag = 0;
+    wocheMonat = 1;
+    if (!JahrGueltig(jahr)) return;
+    const Monatstafel tafel(jahr);
+    for (int p = 1; p <= seite - 1; ++p)
+        NaechsteWoche(tafel, p, wocheTag, wocheMonat);
+}
+
+void NaechsteWoche(int jahr, int seite, double& wocheTag, double& wocheMonat) {
+    NaechsteWoche(Monatstafel(jahr), seite, wocheTag, wocheMonat);
 }
 
 // ---- Shapes --------------------------------------------------------------------------------
@@ -122,6 +123,7 @@ void KalenderRahmenLauf(AppState& s, KalenderZeichner& zeichner, int n) {
     const ClassRahmen T = s.Rahmenliste(n);
     const int k = static_cast<int>(T.Objektnummer);
     if (!s.Linienliste.Gueltig(k) || k < 1) return;
+    const Monatstafel tafel(jahr);
 
     int m = Startmonat(s, typ, seite);
     int d = typ == Woche ? static_cast<int>(s.WocheTag) : 0;
@@ -133,7 +135,7 @@ void KalenderRahmenLauf(AppState& s, KalenderZeichner& zeichner, int n) {
     ClassRahmen& A = s.AktuellerRahmen;
     A = T;
     if (k == 4 || k == 5) {
-        t = ErsterTagVersatz(jahr, m, d);
+        t = ErsterTagVersatz(tafel, m, d);
         if (typ == Tasche) A.Y = A.Y + A.Höhe * t;
     }
     switch (typ) {
@@ -174,7 +176,7 @@ void KalenderRahmenLauf(AppState& s, KalenderZeichner& zeichner, int n) {
             const Farbe termin = Zelle(s.TerminBack, d, m, -1);
             if (termin > -1) s.Farbvorgabe = termin; // an appointment's colour beats a holiday's
         }
-        const bool montag = d <= LetzterTag(jahr, m) && Wochentag(jahr, m, d) == kMontag;
+        const bool montag = d <= tafel.LetzterTag(m) && tafel.Wochentag(m, d) == kMontag;
         if (k != 6 || typ >= 8 || montag) {
             // The renderer may change the objects it is given; the template stays as designed.
             ClassLinie linie = s.Linienliste(k);
@@ -185,7 +187,7 @@ void KalenderRahmenLauf(AppState& s, KalenderZeichner& zeichner, int n) {
         s.Farbvorgabe = -1;
         if (!kalender || s.KalenderBearbeiten != 0) return;
 
-        const int letzter = LetzterTag(jahr, m);
+        const int letzter = tafel.LetzterTag(m);
         const double W = A.Breite, H = A.Höhe;
         switch (typ) {
         case Halbjahr:
@@ -248,14 +250,14 @@ void KalenderRahmenLauf(AppState& s, KalenderZeichner& zeichner, int n) {
             } else if (k == 4 || k == 5) {
                 if (d == 31 && m == 12) return;
                 A.Y += H;
-                if (Wochentag(jahr, m, d) == kSonntag) {
+                if (tafel.Wochentag(m, d) == kSonntag) {
                     A.Y = m < 7 ? T.Y : T.Y + s.Zeilenabstand;
                     A.X += W;
                 }
                 if (d == letzter) {
                     d = 0;
                     ++m;
-                    t = TascheMonatsanfang(s, T, A, jahr, m, H);
+                    t = TascheMonatsanfang(s, T, A, tafel, m, H);
                 }
             } else
                 return;
@@ -264,7 +266,7 @@ void KalenderRahmenLauf(AppState& s, KalenderZeichner& zeichner, int n) {
             if (k != 4 && k != 5) return;
             if (d == letzter) return;
             A.X += s.Spaltenabstand;
-            if (Wochentag(jahr, m, d) == kSonntag) {
+            if (tafel.Wochentag(m, d) == kSonntag) {
                 A.X = T.X;
                 A.Y += s.Zeilenabstand;
             }
@@ -317,15 +319,15 @@ namespace {
 
 // Mondays of the year before the page, plus one when 1 January falls on Tuesday to Thursday (the
 // first week then lies mostly in the new year).
-double WochenzaehlerBisSeite(const AppState& s, int typ, int seite, int jahr) {
-    const int neujahr = Wochentag(jahr, 1, 1);
+double WochenzaehlerBisSeite(const AppState& s, const Monatstafel& tafel, int typ, int seite) {
+    const int neujahr = tafel.Wochentag(1, 1);
     double zaehler = (neujahr >= 3 && neujahr <= 5) ? 1 : 0;
     if (seite <= 1) return zaehler;
     const int wocheTag = static_cast<int>(s.WocheTag), wocheMonat = static_cast<int>(s.WocheMonat);
     int m = 1, d = 0;
     while (m <= 12) {
         ++d;
-        if (d <= LetzterTag(jahr, m) && Wochentag(jahr, m, d) == kMontag) zaehler += 1;
+        if (d <= tafel.LetzterTag(m) && tafel.Wochentag(m, d) == kMontag) zaehler += 1;
         bool erreicht = false;
         switch (typ) {
         case Woche:
@@ -366,7 +368,9 @@ void KalenderTextLauf(AppState& s, KalenderZeichner& zeichner, int n) {
     if (k < 1 || !s.Schriftliste.Gueltig(k)) return;
 
     s.Winkelvorgabe = -1;
-    double wochenzaehler = WochenzaehlerBisSeite(s, typ, seite, jahr);
+    const Monatstafel tafel(jahr);
+    // Only the week numbers count the Mondays before the page.
+    double wochenzaehler = k == 6 ? WochenzaehlerBisSeite(s, tafel, typ, seite) : 0;
     int m = Startmonat(s, typ, seite);
     int d = typ == Woche ? static_cast<int>(s.WocheTag) : 0;
     int t = 0;
@@ -374,7 +378,7 @@ void KalenderTextLauf(AppState& s, KalenderZeichner& zeichner, int n) {
     ClassRahmen& A = s.AktuellerRahmen;
     A = T;
     if (k >= 3 && k <= 5) {
-        t = ErsterTagVersatz(jahr, m, d);
+        t = ErsterTagVersatz(tafel, m, d);
         if (typ == Tasche) A.Y = A.Y + A.Höhe * t;
     }
     // Designs with the month group frame carry the grid measures; Halbjahr and Jahr A5 take the
@@ -408,8 +412,8 @@ void KalenderTextLauf(AppState& s, KalenderZeichner& zeichner, int n) {
     for (int schritt = 0; schritt < 400; ++schritt) {
         ++d;
         if (typ == Woche) ++t;
-        const int letzter = LetzterTag(jahr, m);
-        const int wt = Wochentag(jahr, m, d);
+        const int letzter = tafel.LetzterTag(m);
+        const int wt = tafel.Wochentag(m, d);
         const QString feiertag = Zelle(s.Feiertage, d, m, QString());
 
         QString text;
@@ -582,7 +586,7 @@ void KalenderTextLauf(AppState& s, KalenderZeichner& zeichner, int n) {
                     if (d == 31) {
                         d = 0;
                         ++m;
-                        t = TascheMonatsanfang(s, T, A, jahr, m, H);
+                        t = TascheMonatsanfang(s, T, A, tafel, m, H);
                     }
                 }
             } else

@@ -6,7 +6,7 @@
 #include "calendar/Feiertage.h"
 #include "calendar/Kalenderdateien.h"
 #include "calendar/Tagesdaten.h"
-#include "compose/Seitenbild.h"
+#include "compose/Seitenmaler.h"
 #include "compose/ZeichneSeite.h"
 #include "core/AppState.h"
 #include "core/Datensatzbefehle.h"
@@ -25,6 +25,7 @@
 
 #include <QImage>
 #include <algorithm>
+#include <memory>
 
 namespace zp {
 
@@ -78,7 +79,8 @@ Dokumentdienste ProgrammDienste() {
     Dokumentdienste d;
     d.LoadDesign = [](AppState& s, Oberflaeche& ui) { return LoadDesign(s, ui); };
     d.SaveDesign = [](AppState& s, Oberflaeche& ui) { return SaveDesign(s, ui); };
-    d.Seitenbild = [](AppState& s) { return ZeichneSeitenbild(s); };
+    // One painter for the window's page picture, kept by every copy of the table.
+    d.Seitenbild = [maler = std::make_shared<Seitenmaler>()](AppState& s) { return maler->Zeichne(s); };
     d.BildSpeichern = [](AppState& s, Oberflaeche& ui, const QString& datei) {
         Zeichenziele ziele;
         QString fehler;
