@@ -7,6 +7,8 @@
 #include <QPolygon>
 #include <QTextLayout>
 #include <algorithm>
+#include <cmath>
+#include <utility>
 
 namespace zp {
 
@@ -548,6 +550,54 @@ bool RahmenAlsFlaechen(QPainter& p, const Zeichnung& z) {
     p.fillRect(QRect(aussen.right(), aussen.top() + 1, 1, aussen.height() - 2), farbe);
     return true;
 }
+
+// The pixel rows or columns whose centres lie in (a, b]: the painter's rule for outlines.
+std::pair<int, int> Pixelspanne(double a, double b) {
+    return {static_cast<int>(std::floor(a - 0.5)) + 1, static_cast<int>(std::floor(b - 0.5)) + 1};
+}
+
+// A wide plain outline of level and upright lines turning at right angles, as one filled
+// rectangle per line: the day boxes of a calendar are such outlines, and stroking them costs the
+// painter far more. Each line reaches half the pen beyond a corner and stops flat at a free end,
+// as the painter's flat caps and mitred joins give.
+bool LinienzugAlsFlaechen(QPainter& p, const Zeichnung& z) {
+    const QPolygon& pt = z.punkte;
+    if (z.stift.style() != Qt::SolidLine || z.stift.width() < 2 || z.stift.capStyle() != Qt::FlatCap ||
+        z.stift.joinStyle() != Qt::MiterJoin || z.modus != QPainter::CompositionMode_SourceOver ||
+        p.testRenderHint(QPainter::Antialiasing) || p.transform().type() > QTransform::TxTranslate ||
+        pt.size() < 2)
+        return false;
+    for (int i = 0; i + 1 < pt.size(); ++i) {
+        const QPoint d = pt[i + 1] - pt[i];
+        if ((d.x() == 0) == (d.y() == 0)) return false;                        // slanted or of no length
+        if (i > 0 && (pt[i] - pt[i - 1]).x() == 0 && d.x() == 0) return false; // no turn
+        if (i > 0 && (pt[i] - pt[i - 1]).y() == 0 && d.y() == 0) return false;
+    }
+    const double h = z.stift.width() / 2.0;
+    const QColor farbe = z.stift.color();
+    for (int i = 0; i + 1 < pt.size(); ++i) {
+        const QPoint a = pt[i], b = pt[i + 1];
+        const double vorn = i > 0 ? h : 0, hinten = i + 2 < pt.size() ? h : 0;
+        double x1, x2, y1, y2;
+        if (a.y() == b.y()) {
+            const bool vorwaerts = a.x() < b.x();
+            x1 = std::min(a.x(), b.x()) - (vorwaerts ? vorn : hinten);
+            x2 = std::max(a.x(), b.x()) + (vorwaerts ? hinten : vorn);
+            y1 = a.y() - h;
+            y2 = a.y() + h;
+        } else {
+            const bool vorwaerts = a.y() < b.y();
+            y1 = std::min(a.y(), b.y()) - (vorwaerts ? vorn : hinten);
+            y2 = std::max(a.y(), b.y()) + (vorwaerts ? hinten : vorn);
+            x1 = a.x() - h;
+            x2 = a.x() + h;
+        }
+        const auto [links, rechts] = Pixelspanne(x1, x2);
+        const auto [oben, unten] = Pixelspanne(y1, y2);
+        p.fillRect(QRect(links, oben, rechts - links, unten - oben), farbe);
+    }
+    return true;
+}
 } // namespace
 
 void PainterCanvas::Zeichne(QPainter& p, const Zeichnung& z) {
@@ -578,6 +628,7 @@ void PainterCanvas::Zeichne(QPainter& p, const Zeichnung& z) {
         p.drawPolygon(z.punkte, Qt::OddEvenFill);
         break;
     case Zeichnung::Art::Linienzug:
+        if (LinienzugAlsFlaechen(p, z)) break;
         p.setPen(z.stift);
         p.setBrush(Qt::NoBrush);
         p.drawPolyline(z.punkte);

@@ -19,9 +19,13 @@ constexpr uint8_t kStandardZeichensatz = 1; // the device's default character se
 uint8_t Zeichensatz(const AppState& s, const QString& fontname) {
     // Views, not copies: every text of a calendar page looks its font up in a list of hundreds.
     const QStringView name = QStringView(fontname).trimmed();
+    const std::vector<QString>& zeilen = s.Schriftenliste.Eintraege();
     const int grenze = std::min(s.Schriftenliste.Obergrenze(), s.Schriftzeichensatz.Obergrenze());
-    for (int k = 0; k <= grenze; ++k)
-        if (QStringView(s.Schriftenliste(k)).trimmed() == name) return s.Schriftzeichensatz(k);
+    for (int k = 0; k <= grenze; ++k) {
+        const QString& zeile = zeilen[static_cast<size_t>(k)];
+        if (zeile.size() < name.size()) continue; // most rows of the table are empty
+        if (QStringView(zeile).trimmed() == name) return s.Schriftzeichensatz(k);
+    }
     return kStandardZeichensatz;
 }
 

@@ -31,6 +31,8 @@ public:
     T& operator()(double i) { return (*this)(static_cast<int>(i)); }
     const T& operator()(double i) const { return (*this)(static_cast<int>(i)); }
     [[nodiscard]] bool Gueltig(int i) const { return i >= 0 && i <= Obergrenze(); }
+    // All entries 0..Obergrenze() in order, for searches that walk the whole list.
+    [[nodiscard]] const std::vector<T>& Eintraege() const { return m_items; }
 
 private:
     size_t checked(int i) const {

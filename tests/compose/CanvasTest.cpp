@@ -206,3 +206,35 @@ TEST(ImageCanvas, KastenMitEinemPixelStiftGleichtDemUmrissDesMalers) {
                 EXPECT_EQ(c.Bild(), erwartet) << breite << "x" << hoehe << " Füllung " << fuellung;
             }
 }
+
+// Wide outlines of level and upright lines are filled, not stroked: closed boxes and open
+// staircases must set the pixels the painter's own stroke sets, for odd and even pens.
+TEST(ImageCanvas, BreiterRechtwinkligerLinienzugGleichtDemStrichDesMalers) {
+    const std::vector<std::vector<QPoint>> zuege = {
+        {{10, 10}, {40, 10}, {40, 35}, {10, 35}, {10, 10}},          // a box, clockwise and closed
+        {{12, 40}, {12, 12}, {45, 12}, {45, 40}, {12, 40}},          // the other way round
+        {{8, 50}, {20, 50}, {20, 30}, {35, 30}, {35, 45}, {50, 45}}, // open, both turns
+    };
+    for (const auto& zug : zuege)
+        for (int staerke = 2; staerke <= 7; ++staerke) {
+            ImageCanvas c(QSize(60, 60));
+            c.ForeColor = Blau;
+            c.DrawWidth = staerke;
+            c.Polyline(zug);
+
+            QImage erwartet(60, 60, QImage::Format_RGB32);
+            erwartet.fill(Qt::white);
+            QPainter p(&erwartet);
+            QPen stift(Qt::blue);
+            stift.setWidth(staerke);
+            stift.setCapStyle(Qt::FlatCap);
+            stift.setJoinStyle(Qt::MiterJoin);
+            p.setPen(stift);
+            QPolygon punkte;
+            for (const QPoint& q : zug)
+                punkte << q;
+            p.drawPolyline(punkte);
+            p.end();
+            EXPECT_EQ(c.Bild(), erwartet) << "Stärke " << staerke << ", Zug ab " << zug.front().x();
+        }
+}
