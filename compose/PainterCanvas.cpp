@@ -598,6 +598,34 @@ bool LinienzugAlsFlaechen(QPainter& p, const Zeichnung& z) {
     }
     return true;
 }
+
+// Each colour channel times a / 255, on premultiplied pixels.
+inline QRgb Anteil(QRgb x, uint a) {
+    uint rb = (x & 0xff00ff) * a;
+    rb = ((rb + ((rb >> 8) & 0xff00ff) + 0x800080) >> 8) & 0xff00ff;
+    uint ag = ((x >> 8) & 0xff00ff) * a;
+    ag = (ag + ((ag >> 8) & 0xff00ff) + 0x800080) & 0xff00ff00;
+    return ag | rb;
+}
+
+// Lays the bands, cut to the coverage of the mask, over the page at `ort`, in one pass: the
+// painter would take two compositions and hand large ones to helper threads.
+void LegeAuf(QImage& seite, QPoint ort, const QImage& baender, const QImage& maske) {
+    const bool deckend = seite.format() == QImage::Format_RGB32;
+    for (int y = 0; y < baender.height(); ++y) {
+        const auto* band = reinterpret_cast<const QRgb*>(baender.constScanLine(y));
+        const auto* deckung = reinterpret_cast<const QRgb*>(maske.constScanLine(y));
+        auto* ziel = reinterpret_cast<QRgb*>(seite.scanLine(ort.y() + y)) + ort.x();
+        for (int x = 0; x < baender.width(); ++x) {
+            const uint a = qAlpha(deckung[x]);
+            if (a == 0 || qAlpha(band[x]) == 0) continue;
+            const QRgb farbe = a == 255 ? band[x] : Anteil(band[x], a);
+            QRgb neu = farbe + Anteil(ziel[x], 255 - qAlpha(farbe));
+            if (deckend) neu |= 0xff000000;
+            ziel[x] = neu;
+        }
+    }
+}
 } // namespace
 
 void PainterCanvas::Zeichne(QPainter& p, const Zeichnung& z) {
@@ -702,7 +730,16 @@ bool PainterCanvas::AlsSchichtZeichnen(const std::vector<Stufe>& stufen, const S
         b.setCompositionMode(QPainter::CompositionMode_Source);
         for (size_t k = 0; k < plan.farben.size(); ++k)
             plan.flaechen[k]->Fuelle(b, plan.farben[k]);
-        b.resetTransform();
+    }
+    auto* seite = static_cast<QImage*>(p.device());
+    // Written straight into the painter's buffer; a picture shared with a copy would detach.
+    if (seite->isDetached() &&
+        (seite->format() == QImage::Format_RGB32 || seite->format() == QImage::Format_ARGB32_Premultiplied)) {
+        LegeAuf(*seite, flaeche.topLeft(), baender, maske);
+        return true;
+    }
+    {
+        QPainter b(&baender);
         b.setCompositionMode(QPainter::CompositionMode_DestinationIn);
         b.drawImage(0, 0, maske);
     }
