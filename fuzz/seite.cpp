@@ -1,0 +1,38 @@
+// The page composition on any design: whatever a file brings (sizes, angles, fonts, gradients,
+// shadows, frame kinds, calendar types), a loaded design is drawn without fault and in bounded
+// time, in every edition.
+#include "FuzzHilfe.h"
+#include "compose/ImageCanvas.h"
+#include "compose/Seitenbild.h"
+#include "compose/ZeichneSeite.h"
+#include "core/AppState.h"
+#include "persist/Design.h"
+
+extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
+    zp::fuzz::StarteAnwendung(argc, argv);
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    if (size == 0) return 0;
+    const QByteArray bytes = zp::fuzz::Bytes(data + 1, size - 1);
+    const uint8_t wahl = data[0];
+    zp::AppState s;
+    zp::Oberflaeche ui;
+    float* flags[] = {&s.IstKalender, &s.IstVisitenkarte, &s.IstBriefkopf, &s.IstEtikett, &s.IstCDHuelle};
+    *flags[wahl % 5] = -1;
+    s.Schriftenliste(1) = QStringLiteral("Arial");
+    s.AktuelleSeite.Breite = 2100;
+    s.AktuelleSeite.Höhe = 2970;
+    s.Kalenderjahr = 2027;
+    if (!zp::LadeDesignAusBytes(s, ui, bytes)) return 0;
+    // A small zoom keeps each run short; the drawing rules are the same at every zoom.
+    s.Zoomfaktor = 20;
+    s.Zeichenfaktor = 0.2;
+    s.Seitennummer = 1 + (wahl / 5) % 3;
+    zp::ImageCanvas seite(zp::SeitenbildGroesse(s));
+    zp::Zeichenziele ziele;
+    ziele.PictureSeite = &seite;
+    zp::ZeichneSeite(s, ziele);
+    return 0;
+}
