@@ -22,6 +22,7 @@ if ! cmake --build "$BUILD_DIR" --parallel "${ZP_JOBS:-$(nproc)}" --target "${ZI
 fi
 
 export QT_QPA_PLATFORM=offscreen
+export LSAN_OPTIONS="suppressions=$PWD/fuzz/lsan.supp"
 mkdir -p "$BUILD_DIR/funde"
 fehler=0
 for ziel in "${ZIELE[@]}"; do
