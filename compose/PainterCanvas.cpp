@@ -301,6 +301,23 @@ void PainterCanvas::Text(int x, int y, const QString& text, const Zeichensatz& z
     Ausgeben(std::move(z));
 }
 
+const QTextLayout& PainterCanvas::Satz(const Zeichensatz& zs, const QString& text) {
+    // Shaped once per font and string: calendars and effects draw the same strings often.
+    const QPair<int, QString> schluessel(zs.nummer, text);
+    auto it = m_saetze.find(schluessel);
+    if (it == m_saetze.end()) {
+        if (m_saetze.size() >= 2048) m_saetze.clear();
+        auto satz = std::make_shared<QTextLayout>(text, zs.font);
+        satz->setCacheEnabled(true);
+        satz->beginLayout();
+        QTextLine zeile = satz->createLine();
+        zeile.setPosition(QPointF(0, 0));
+        satz->endLayout();
+        it = m_saetze.insert(schluessel, std::move(satz));
+    }
+    return **it;
+}
+
 void PainterCanvas::ZeichneText(QPainter& p, const Zeichnung& z) {
     const Zeichensatz& zs = z.schrift;
     const QTransform alt = p.transform();
@@ -310,39 +327,22 @@ void PainterCanvas::ZeichneText(QPainter& p, const Zeichnung& z) {
     p.setFont(zs.font);
     if (z.hintergrund) p.fillRect(QRect(0, 0, Textbreite(zs, z.text), zs.hoehe), *z.hintergrund);
     p.setPen(z.stift);
-    if (zs.font.underline() || zs.font.strikeOut()) {
+    if (zs.font.underline() || zs.font.strikeOut())
         p.drawText(0, zs.ascent, z.text);
-    } else {
-        // Shaped once per font and string: calendars and effects draw the same strings often.
-        const QPair<int, QString> schluessel(zs.nummer, z.text);
-        std::shared_ptr<QTextLayout>& satz = m_saetze[schluessel];
-        if (!satz) {
-            if (m_saetze.size() > 2048) {
-                m_saetze.clear();
-                ZeichneText(p, z);
-                return;
-            }
-            satz = std::make_shared<QTextLayout>(z.text, zs.font);
-            satz->setCacheEnabled(true);
-            satz->beginLayout();
-            QTextLine zeile = satz->createLine();
-            zeile.setPosition(QPointF(0, 0));
-            satz->endLayout();
-        }
-        const std::shared_ptr<QTextLayout> halten = satz;
-        halten->draw(&p, QPointF(0, 0));
-    }
+    else
+        Satz(zs, z.text).draw(&p, QPointF(0, 0));
     p.setTransform(alt);
 }
 
+double PainterCanvas::Drehung() const {
+    const LogFont* lf = m_objekte.Schrift(m_gewaehlteSchrift);
+    return lf ? lf->lfEscapement / 10.0 : 0.0;
+}
+
 void PainterCanvas::Print(const QString& text) {
-    const bool geraet = m_gewaehlteSchrift != 0;
-    const Zeichensatz& zs = AktuelleSchrift(geraet);
-    double drehung = 0;
-    if (geraet)
-        if (const LogFont* lf = m_objekte.Schrift(m_gewaehlteSchrift)) drehung = lf->lfEscapement / 10.0;
+    const Zeichensatz& zs = AktuelleSchrift(m_gewaehlteSchrift != 0);
     const int hoehe = zs.hoehe;
-    Text(Px(CurrentX, m_tppX), Px(CurrentY, m_tppY), text, zs, drehung);
+    Text(Px(CurrentX, m_tppX), Px(CurrentY, m_tppY), text, zs, Drehung());
     CurrentX = 0;
     CurrentY += hoehe * m_tppY;
 }
@@ -407,10 +407,7 @@ int PainterCanvas::SetTextCharacterExtra(int n) {
 }
 
 void PainterCanvas::TextOutA(int x, int y, const QString& text) {
-    const Zeichensatz& zs = AktuelleSchrift(true);
-    double drehung = 0;
-    if (const LogFont* lf = m_objekte.Schrift(m_gewaehlteSchrift)) drehung = lf->lfEscapement / 10.0;
-    Text(x, y, text, zs, drehung);
+    Text(x, y, text, AktuelleSchrift(true), Drehung());
 }
 
 GdiHandle PainterCanvas::CreateRectRgn(int left, int top, int right, int bottom) {
@@ -529,13 +526,16 @@ void PainterCanvas::Ausgeben(Zeichnung z) {
 }
 
 namespace {
+// A plain pen drawn straight onto whole pixels: the outlines that filled rectangles can stand for.
+bool SchlichterStrich(const QPainter& p, const Zeichnung& z) {
+    return z.stift.style() == Qt::SolidLine && z.modus == QPainter::CompositionMode_SourceOver &&
+           !p.testRenderHint(QPainter::Antialiasing) && p.transform().type() <= QTransform::TxTranslate;
+}
+
 // A box with a plain one-pixel pen as five filled rectangles, the pixels the painter's outline
 // would set: a calendar page has hundreds of day boxes, and the painter strokes each outline.
 bool RahmenAlsFlaechen(QPainter& p, const Zeichnung& z) {
-    if (z.stift.style() != Qt::SolidLine || z.stift.width() > 1 ||
-        z.modus != QPainter::CompositionMode_SourceOver || p.testRenderHint(QPainter::Antialiasing) ||
-        p.transform().type() > QTransform::TxTranslate)
-        return false;
+    if (!SchlichterStrich(p, z) || z.stift.width() > 1) return false;
     const QRect aussen(z.rechteck.topLeft(), QSize(z.rechteck.width() + 1, z.rechteck.height() + 1));
     if (aussen.width() <= 0 || aussen.height() <= 0) return false;
     const QColor farbe = z.stift.color();
@@ -562,10 +562,8 @@ std::pair<int, int> Pixelspanne(double a, double b) {
 // as the painter's flat caps and mitred joins give.
 bool LinienzugAlsFlaechen(QPainter& p, const Zeichnung& z) {
     const QPolygon& pt = z.punkte;
-    if (z.stift.style() != Qt::SolidLine || z.stift.width() < 2 || z.stift.capStyle() != Qt::FlatCap ||
-        z.stift.joinStyle() != Qt::MiterJoin || z.modus != QPainter::CompositionMode_SourceOver ||
-        p.testRenderHint(QPainter::Antialiasing) || p.transform().type() > QTransform::TxTranslate ||
-        pt.size() < 2)
+    if (!SchlichterStrich(p, z) || z.stift.width() < 2 || z.stift.capStyle() != Qt::FlatCap ||
+        z.stift.joinStyle() != Qt::MiterJoin || pt.size() < 2)
         return false;
     for (int i = 0; i + 1 < pt.size(); ++i) {
         const QPoint d = pt[i + 1] - pt[i];
@@ -683,14 +681,12 @@ void PainterCanvas::StufenAusgeben() {
     m_stufen.clear();
     if (const std::optional<Schichtplan> plan = AlsSchicht(stufen);
         !plan || !AlsSchichtZeichnen(stufen, *plan)) {
-        std::optional<Clipflaeche> gesetzt = m_clip;
-        bool ersteZeichnung = true;
+        const std::optional<Clipflaeche>* gesetzt = nullptr; // the clip in the painter
         for (size_t k = 0; k < stufen.size(); ++k) {
             if (k + 1 < stufen.size() && Ueberdeckt(stufen[k + 1], stufen[k])) continue;
             for (const Zeichnung& z : stufen[k]) {
-                if (ersteZeichnung || !(gesetzt == z.clip)) ClipSetzen(z.clip);
-                gesetzt = z.clip;
-                ersteZeichnung = false;
+                if (!gesetzt || !(*gesetzt == z.clip)) ClipSetzen(z.clip);
+                gesetzt = &z.clip;
                 Zeichne(*m_painter, z);
             }
         }

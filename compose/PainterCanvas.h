@@ -97,6 +97,10 @@ private:
     const Zeichensatz& Schriftsatz(const LogFont& lf, int extra);
     [[nodiscard]] int Textbreite(const Zeichensatz& zs, const QString& text);
     void Text(int x, int y, const QString& text, const Zeichensatz& zs, double drehung);
+    // The string laid out in the font, from the cache.
+    const QTextLayout& Satz(const Zeichensatz& zs, const QString& text);
+    // The turn of the selected device font, degrees counter-clockwise.
+    [[nodiscard]] double Drehung() const;
 
     // Draws now, or keeps it for the step it belongs to.
     void Ausgeben(Zeichnung z);

@@ -1,8 +1,7 @@
 #include "Seitenbild.h"
 
 #include "compose/GdiRunden.h"
-#include "compose/ImageCanvas.h"
-#include "compose/ZeichneSeite.h"
+#include "compose/Seitenmaler.h"
 #include "core/AppState.h"
 
 #include <algorithm>
@@ -22,11 +21,7 @@ QSize SeitenbildGroesse(const AppState& s) {
 }
 
 QImage ZeichneSeitenbild(AppState& s) {
-    ImageCanvas seite(SeitenbildGroesse(s), CanvasArt::Bildschirm, s.TwipsProPixelX, s.TwipsProPixelY);
-    Zeichenziele ziele;
-    ziele.PictureSeite = &seite;
-    ZeichneSeite(s, ziele);
-    return seite.Bild();
+    return Seitenmaler().Zeichne(s);
 }
 
 } // namespace zp

@@ -220,11 +220,6 @@ std::optional<QColor> FrmMain::FarbeWaehlen(const QColor& start) {
 // ---- Window updates ---------------------------------------------------------------------------
 
 void FrmMain::Neuzeichnen() {
-    const QSizeF twips = BildgroesseTwips(s, s.Zoomfaktor);
-    const double tx = s.TwipsProPixelX > 0 ? s.TwipsProPixelX : 15;
-    const double ty = s.TwipsProPixelY > 0 ? s.TwipsProPixelY : 15;
-    const QSize pixel(std::max(1, static_cast<int>(std::lround(twips.width() / tx))),
-                      std::max(1, static_cast<int>(std::lround(twips.height() / ty))));
     if (m_d.Seitenbild) {
         QImage seite = SeiteZeichnen();
         if (!seite.isNull()) {
@@ -232,6 +227,11 @@ void FrmMain::Neuzeichnen() {
             return;
         }
     }
+    const QSizeF twips = BildgroesseTwips(s, s.Zoomfaktor);
+    const double tx = s.TwipsProPixelX > 0 ? s.TwipsProPixelX : 15;
+    const double ty = s.TwipsProPixelY > 0 ? s.TwipsProPixelY : 15;
+    const QSize pixel(std::max(1, static_cast<int>(std::lround(twips.width() / tx))),
+                      std::max(1, static_cast<int>(std::lround(twips.height() / ty))));
     QImage bild(pixel, QImage::Format_RGB32);
     bild.fill(Qt::white);
     if (!m_d.Seitenbild) {

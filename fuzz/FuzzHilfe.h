@@ -2,6 +2,7 @@
 // Shared set-up of the reader fuzzers: a GUI application on the offscreen platform (the printer
 // list and fonts need one) and a quiet user interface.
 
+#include "core/AppState.h"
 #include "core/Oberflaeche.h"
 
 #include <QGuiApplication>
@@ -16,6 +17,12 @@ inline void StarteAnwendung(int* argc, char*** argv) {
 
 inline QByteArray Bytes(const uint8_t* data, size_t size) {
     return QByteArray(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
+}
+
+// One of the five editions by a number the input gives, so that every edition gets exercised.
+inline void WaehleAusgabe(AppState& s, uint8_t wahl) {
+    float* flags[] = {&s.IstKalender, &s.IstVisitenkarte, &s.IstBriefkopf, &s.IstEtikett, &s.IstCDHuelle};
+    *flags[wahl % 5] = -1;
 }
 
 } // namespace zp::fuzz

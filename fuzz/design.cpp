@@ -16,8 +16,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const auto wahl = static_cast<uint8_t>(size % 15);
     zp::AppState s;
     zp::Oberflaeche ui;
-    float* flags[] = {&s.IstKalender, &s.IstVisitenkarte, &s.IstBriefkopf, &s.IstEtikett, &s.IstCDHuelle};
-    *flags[wahl % 5] = -1;
+    zp::fuzz::WaehleAusgabe(s, wahl);
     const char* vorgaben[] = {"", "neu", "/vorlage.zpv"};
     s.Ladevorgabe = QString::fromLatin1(vorgaben[(wahl / 5) % 3]);
     s.Schriftenliste(1) = QStringLiteral("Arial");

@@ -2,9 +2,7 @@
 // shadows, frame kinds, calendar types), a loaded design is drawn without fault and in bounded
 // time, in every edition.
 #include "FuzzHilfe.h"
-#include "compose/ImageCanvas.h"
 #include "compose/Seitenbild.h"
-#include "compose/ZeichneSeite.h"
 #include "core/AppState.h"
 #include "persist/Design.h"
 
@@ -20,8 +18,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const auto wahl = static_cast<uint8_t>(size % 15);
     zp::AppState s;
     zp::Oberflaeche ui;
-    float* flags[] = {&s.IstKalender, &s.IstVisitenkarte, &s.IstBriefkopf, &s.IstEtikett, &s.IstCDHuelle};
-    *flags[wahl % 5] = -1;
+    zp::fuzz::WaehleAusgabe(s, wahl);
     s.Schriftenliste(1) = QStringLiteral("Arial");
     s.AktuelleSeite.Breite = 2100;
     s.AktuelleSeite.Höhe = 2970;
@@ -31,9 +28,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     s.Zoomfaktor = 20;
     s.Zeichenfaktor = 0.2;
     s.Seitennummer = 1 + (wahl / 5) % 3;
-    zp::ImageCanvas seite(zp::SeitenbildGroesse(s));
-    zp::Zeichenziele ziele;
-    ziele.PictureSeite = &seite;
-    zp::ZeichneSeite(s, ziele);
+    (void)zp::ZeichneSeitenbild(s);
     return 0;
 }
