@@ -135,8 +135,10 @@ void PainterCanvas::StiftUndPinsel(Zeichnung& z, bool mitPinsel) const {
             }
         }
         stift.setStyle(stil);
-        stift.setCapStyle(Qt::FlatCap);
-        stift.setJoinStyle(Qt::MiterJoin);
+        // A wide pen of the device ends and joins round; a one-pixel pen has no ends to shape.
+        const bool breit = DrawWidth > 1;
+        stift.setCapStyle(breit ? Qt::RoundCap : Qt::FlatCap);
+        stift.setJoinStyle(breit ? Qt::RoundJoin : Qt::MiterJoin);
         z.stift = stift;
     }
     if (!mitPinsel || FillStyle == 1) {
@@ -556,44 +558,48 @@ std::pair<int, int> Pixelspanne(double a, double b) {
     return {static_cast<int>(std::floor(a - 0.5)) + 1, static_cast<int>(std::floor(b - 0.5)) + 1};
 }
 
-// A wide plain outline of level and upright lines turning at right angles, as one filled
-// rectangle per line: the day boxes of a calendar are such outlines, and stroking them costs the
-// painter far more. Each line reaches half the pen beyond a corner and stops flat at a free end,
-// as the painter's flat caps and mitred joins give.
+// A disc of radius h about the pen's centre `mitte`: the pixels whose centres lie within it, by
+// the same half-open rule as the straight parts, row by row. The round end or corner of a wide pen.
+void Scheibe(QPainter& p, QPointF mitte, double h, const QColor& farbe) {
+    const auto [oben, unten] = Pixelspanne(mitte.y() - h, mitte.y() + h);
+    for (int zeile = oben; zeile < unten; ++zeile) {
+        const double dy = zeile + 0.5 - mitte.y();
+        const double halb = std::sqrt(std::max(0.0, h * h - dy * dy));
+        const auto [links, rechts] = Pixelspanne(mitte.x() - halb, mitte.x() + halb);
+        if (rechts > links) p.fillRect(QRect(links, zeile, rechts - links, 1), farbe);
+    }
+}
+
+// A wide plain outline of level and upright lines, as one filled rectangle per line and a disc
+// on every corner and end: the day boxes of a calendar are such outlines, and stroking them
+// costs the painter far more. The discs are the round joins and caps of the device's wide pen.
 bool LinienzugAlsFlaechen(QPainter& p, const Zeichnung& z) {
     const QPolygon& pt = z.punkte;
-    if (!SchlichterStrich(p, z) || z.stift.width() < 2 || z.stift.capStyle() != Qt::FlatCap ||
-        z.stift.joinStyle() != Qt::MiterJoin || pt.size() < 2)
+    if (!SchlichterStrich(p, z) || z.stift.width() < 2 || z.stift.capStyle() != Qt::RoundCap ||
+        z.stift.joinStyle() != Qt::RoundJoin || pt.size() < 2)
         return false;
     for (int i = 0; i + 1 < pt.size(); ++i) {
         const QPoint d = pt[i + 1] - pt[i];
-        if ((d.x() == 0) == (d.y() == 0)) return false;                        // slanted or of no length
-        if (i > 0 && (pt[i] - pt[i - 1]).x() == 0 && d.x() == 0) return false; // no turn
-        if (i > 0 && (pt[i] - pt[i - 1]).y() == 0 && d.y() == 0) return false;
+        if ((d.x() == 0) == (d.y() == 0)) return false; // slanted or of no length
     }
     const double h = z.stift.width() / 2.0;
     const QColor farbe = z.stift.color();
     for (int i = 0; i + 1 < pt.size(); ++i) {
         const QPoint a = pt[i], b = pt[i + 1];
-        const double vorn = i > 0 ? h : 0, hinten = i + 2 < pt.size() ? h : 0;
         double x1, x2, y1, y2;
         if (a.y() == b.y()) {
-            const bool vorwaerts = a.x() < b.x();
-            x1 = std::min(a.x(), b.x()) - (vorwaerts ? vorn : hinten);
-            x2 = std::max(a.x(), b.x()) + (vorwaerts ? hinten : vorn);
-            y1 = a.y() - h;
-            y2 = a.y() + h;
+            x1 = std::min(a.x(), b.x()), x2 = std::max(a.x(), b.x());
+            y1 = a.y() - h, y2 = a.y() + h;
         } else {
-            const bool vorwaerts = a.y() < b.y();
-            y1 = std::min(a.y(), b.y()) - (vorwaerts ? vorn : hinten);
-            y2 = std::max(a.y(), b.y()) + (vorwaerts ? hinten : vorn);
-            x1 = a.x() - h;
-            x2 = a.x() + h;
+            y1 = std::min(a.y(), b.y()), y2 = std::max(a.y(), b.y());
+            x1 = a.x() - h, x2 = a.x() + h;
         }
         const auto [links, rechts] = Pixelspanne(x1, x2);
         const auto [oben, unten] = Pixelspanne(y1, y2);
         p.fillRect(QRect(links, oben, rechts - links, unten - oben), farbe);
     }
+    for (const QPoint& ecke : pt)
+        Scheibe(p, QPointF(ecke), h, farbe);
     return true;
 }
 

@@ -35,6 +35,15 @@ public:
     virtual void Mauszeiger(int zeiger) { (void)zeiger; }
     virtual void Statusmeldung(const QString&) {} // a note in the status bar, no answer needed
     virtual void FokusFeldbox(int i) { (void)i; } // keyboard focus to the panel box Text1(i)
+    virtual void FormatleisteAktualisieren() {}   // the format bar from the current text
+
+    // The property dialogs on the current frame, opened at page `seite` (1 first); each hands its
+    // result to its own command. The headless core has none to open.
+    virtual void SchriftdialogZeigen(int seite) { (void)seite; }
+    virtual void LiniendialogZeigen(int seite) { (void)seite; }
+    virtual void BilddialogZeigen() {}
+    virtual void PositionsdialogZeigen() {}
+    virtual void RahmenLoeschen() {} // the current frame deleted, as the editing rules say
 
     // The file dialog: returns the chosen path, or "" when the user cancelled. `filter` is in the
     // form "Name (*.x)|*.x|...". The default answers with `vorgabeDatei`.

@@ -208,7 +208,7 @@ TEST(ImageCanvas, KastenMitEinemPixelStiftGleichtDemUmrissDesMalers) {
 }
 
 // Wide outlines of level and upright lines are filled, not stroked: closed boxes and open
-// staircases must set the pixels the painter's own stroke sets, for odd and even pens.
+// staircases must set the pixels the painter's own round-joined stroke sets, for odd and even pens.
 TEST(ImageCanvas, BreiterRechtwinkligerLinienzugGleichtDemStrichDesMalers) {
     const std::vector<std::vector<QPoint>> zuege = {
         {{10, 10}, {40, 10}, {40, 35}, {10, 35}, {10, 10}},          // a box, clockwise and closed
@@ -227,8 +227,8 @@ TEST(ImageCanvas, BreiterRechtwinkligerLinienzugGleichtDemStrichDesMalers) {
             QPainter p(&erwartet);
             QPen stift(Qt::blue);
             stift.setWidth(staerke);
-            stift.setCapStyle(Qt::FlatCap);
-            stift.setJoinStyle(Qt::MiterJoin);
+            stift.setCapStyle(Qt::RoundCap);
+            stift.setJoinStyle(Qt::RoundJoin);
             p.setPen(stift);
             QPolygon punkte;
             for (const QPoint& q : zug)
@@ -237,4 +237,32 @@ TEST(ImageCanvas, BreiterRechtwinkligerLinienzugGleichtDemStrichDesMalers) {
             p.end();
             EXPECT_EQ(c.Bild(), erwartet) << "Stärke " << staerke << ", Zug ab " << zug.front().x();
         }
+}
+
+// A wide pen ends and joins round, as the device's wide pens do: a diagonal reaches half the pen
+// beyond its end points, not the length of a mitre, and a sharp corner is rounded off.
+TEST(ImageCanvas, BreiterStiftEndetUndVerbindetRund) {
+    ImageCanvas c(QSize(100, 100));
+    c.ForeColor = Blau;
+    c.DrawWidth = 7;
+    c.Polygon({{30, 30}, {70, 70}}); // a diagonal of two points, as shapes 3 and 4 draw it
+    const QImage bild = c.Bild();
+    auto gemalt = [&](int x, int y) { return bild.pixel(x, y) != QColor(Qt::white).rgb(); };
+    EXPECT_TRUE(gemalt(28, 28));  // the round end, 2.8 pixels out
+    EXPECT_FALSE(gemalt(26, 26)); // a mitre of the turn back would reach far beyond
+    EXPECT_FALSE(gemalt(74, 74));
+    for (int i = 0; i < 100; ++i) {
+        EXPECT_FALSE(gemalt(i, 25)) << i;
+        EXPECT_FALSE(gemalt(25, i)) << i;
+    }
+
+    ImageCanvas d(QSize(100, 100));
+    d.ForeColor = Blau;
+    d.DrawWidth = 9;
+    d.Polyline({{20, 80}, {80, 80}, {50, 20}, {20, 80}}); // a triangle's outline with its tip at (50, 20)
+    const QImage dreieck = d.Bild();
+    for (int y = 0; y < 15; ++y)
+        for (int x = 0; x < 100; ++x)
+            EXPECT_EQ(dreieck.pixel(x, y), QColor(Qt::white).rgb()) << x << "," << y;
+    EXPECT_NE(dreieck.pixel(50, 17), QColor(Qt::white).rgb());
 }

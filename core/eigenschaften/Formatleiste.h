@@ -1,0 +1,54 @@
+#pragma once
+// The format bar of the current frame: the state of its keys and lists, and what each key does.
+
+#include <QString>
+
+namespace zp {
+struct AppState;
+struct ClassSchrift;
+class Oberflaeche;
+
+// What the bar shows for the current frame. The text keys and lists are only live on a text.
+struct Formatzustand {
+    bool Schrift = false; // the current frame is a text
+    bool Fett = false;
+    bool Kursiv = false;
+    bool Unterstrichen = false;
+    int AusrichtungH = 0; // 0 left, 1 centre, 2 right: exactly one key pressed
+    int AusrichtungV = 0; // 0 top, 1 middle, 2 bottom
+    QString Schriftart;
+    double Groesse = 0;
+    bool Gesperrt = false; // the frame is anchored
+};
+
+// The text object of the current frame, or nullptr when the frame isn't a text.
+[[nodiscard]] ClassSchrift* SchriftDesRahmens(AppState& s);
+
+// UpdateFormatBar: the bar's state from the current frame and its text.
+[[nodiscard]] Formatzustand UpdateFormatBar(AppState& s);
+
+// A key of Toolbar3 by its key name ("fett", "links", "farbe", "gesperrt", ...). Style and
+// alignment change the current text and redraw; "farbe" and "schatten" open the colour or shadow
+// page of the text or shape dialog; "winkel" the text dialog, "positionieren" the position
+// dialog, "löschen" deletes the frame. Returns false for a key that does nothing on this frame.
+bool Toolbar3Knopf(AppState& s, Oberflaeche& ui, const QString& schluessel);
+
+// Combo1: the font family of the current text.
+bool SchriftartSetzen(AppState& s, Oberflaeche& ui, const QString& familie);
+// Combo3: the size, picked or typed. A size that can't be read or lies outside 1 to 1000 points
+// is told to the user and changes nothing.
+bool SchriftgroesseSetzen(AppState& s, Oberflaeche& ui, const QString& eingabe);
+
+// OpenPropertyDialog: the current frame becomes visible and the dialog of its kind opens on
+// `seite` (1 first). A letter body has no dialog here.
+void OpenPropertyDialog(AppState& s, Oberflaeche& ui, int seite = 1);
+
+// The pages of the text and shape dialogs that the format bar opens.
+namespace Dialogseite {
+inline constexpr int Schrift = 1; // text dialog: font and alignment; shape dialog: the forms
+inline constexpr int Farbe = 2;
+inline constexpr int Schatten = 3;
+inline constexpr int Winkel = 4; // text dialog only: angle and spacing
+} // namespace Dialogseite
+
+} // namespace zp
