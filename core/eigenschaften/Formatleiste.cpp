@@ -31,7 +31,10 @@ ClassSchrift* SchriftDesRahmens(AppState& s) {
 
 Formatzustand UpdateFormatBar(AppState& s) {
     Formatzustand z;
-    if (const ClassRahmen* r = Rahmen(s)) z.Gesperrt = r->Verankert != 0;
+    if (const ClassRahmen* r = Rahmen(s)) {
+        z.Gesperrt = r->Verankert != 0;
+        z.Linie = r->Objekttyp == QLatin1String("Linie");
+    }
     const ClassSchrift* t = SchriftDesRahmens(s);
     if (!t) return z;
     z.Schrift = true;

@@ -11,6 +11,7 @@ class Oberflaeche;
 // What the bar shows for the current frame. The text keys and lists are only live on a text.
 struct Formatzustand {
     bool Schrift = false; // the current frame is a text
+    bool Linie = false;   // a shape: only colour and shadow of the text keys apply
     bool Fett = false;
     bool Kursiv = false;
     bool Unterstrichen = false;

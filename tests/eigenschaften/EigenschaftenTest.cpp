@@ -6,6 +6,10 @@
 #include "core/eigenschaften/Liniendialog.h"
 #include "core/eigenschaften/Positionsdialog.h"
 #include "core/eigenschaften/Schriftdialog.h"
+#include "core/eigenschaften/Schnappschuss.h"
+
+#include <QFile>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -302,6 +306,31 @@ TEST(Formatleiste, OpenPropertyDialogShowsTheFrameAndPicksTheDialog) {
     s.RahmenNummer = 5;
     OpenPropertyDialog(s, ui);
     EXPECT_EQ(ui.geoeffnet, (QStringList{"Schrift 1", "Linie 1"}));
+}
+
+TEST(Schnappschuss, WritesIntoThePrivateFolderAndKeepsTheFileName) {
+    AppState s = Dokument();
+    Fenster ui;
+    s.AktuelleDatei = QStringLiteral("/home/nutzer/karte.zpv");
+    QStringList geschrieben;
+    const Dienst speichern = [&](AppState& st, Oberflaeche&) {
+        geschrieben << st.AktuelleDatei;
+        QFile f(st.AktuelleDatei);
+        return f.open(QIODevice::WriteOnly) && f.write("x") == 1;
+    };
+    QTemporaryDir ordner;
+    ASSERT_TRUE(ordner.isValid());
+    const QString datei = Schnappschuss(s, ui, speichern, ordner.path());
+    EXPECT_EQ(datei, ordner.filePath(QStringLiteral("test.zpb")));
+    EXPECT_EQ(geschrieben, QStringList{datei});
+    EXPECT_TRUE(QFile::exists(datei));
+    EXPECT_EQ(s.AktuelleDatei, QStringLiteral("/home/nutzer/karte.zpv"));
+
+    // A failed write and a folder that is gone leave the file name too.
+    const Dienst scheitert = [](AppState&, Oberflaeche&) { return false; };
+    EXPECT_EQ(Schnappschuss(s, ui, scheitert, ordner.path()), QString());
+    EXPECT_EQ(Schnappschuss(s, ui, speichern, ordner.path() + QStringLiteral("/weg")), QString());
+    EXPECT_EQ(s.AktuelleDatei, QStringLiteral("/home/nutzer/karte.zpv"));
 }
 
 } // namespace
