@@ -1,6 +1,6 @@
 #include "Effektseiten.h"
 
-#include "core/eigenschaften/Schriftdialog.h"
+#include "core/Schriftdialog.h"
 
 #include <QButtonGroup>
 #include <QFormLayout>

@@ -1,8 +1,8 @@
 #include "Formatleiste.h"
 
-#include "core/AppState.h"
-#include "core/Oberflaeche.h"
-#include "core/eigenschaften/Formatleiste.h"
+#include "core/Formatbefehle.h"
+#include "core/state/AppState.h"
+#include "core/state/Oberflaeche.h"
 
 #include <QAction>
 #include <QActionGroup>

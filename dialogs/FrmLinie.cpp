@@ -1,7 +1,7 @@
 #include "FrmLinie.h"
 
-#include "core/AppState.h"
-#include "core/eigenschaften/Vorschau.h"
+#include "core/Dialogvorschau.h"
+#include "core/state/AppState.h"
 #include "dialogs/Effektseiten.h"
 
 #include <QButtonGroup>

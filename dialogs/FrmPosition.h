@@ -2,7 +2,7 @@
 // frmPosition: the box of the current frame in numbers. Each box is kept on the page as soon as
 // it loses the focus; the caller hands the boxes to the position dialog's command on Ok.
 
-#include "core/eigenschaften/Positionsdialog.h"
+#include "core/Positionsdialog.h"
 #include "model/SeiteEtikett.h"
 
 #include <QDialog>

@@ -1,8 +1,8 @@
 #include "FrmSchrift.h"
 
-#include "core/AppState.h"
-#include "core/eigenschaften/Schriftdialog.h"
-#include "core/eigenschaften/Vorschau.h"
+#include "core/Dialogvorschau.h"
+#include "core/Schriftdialog.h"
+#include "core/state/AppState.h"
 #include "dialogs/Effektseiten.h"
 
 #include <QButtonGroup>

@@ -2,10 +2,11 @@
 // the work copy, Ok hands the copy to the command, Cancel leaves the document.
 
 #include "common/ProtokollOberflaeche.h"
-#include "core/AppState.h"
-#include "core/eigenschaften/Liniendialog.h"
-#include "core/eigenschaften/Positionsdialog.h"
-#include "core/eigenschaften/Schriftdialog.h"
+#include "core/Liniendialog.h"
+#include "core/Positionsdialog.h"
+#include "core/Schriftdialog.h"
+#include "core/state/AppState.h"
+#include "dialogs/Eigenschaftsdialoge.h"
 #include "dialogs/FrmLinie.h"
 #include "dialogs/FrmPosition.h"
 #include "dialogs/FrmSchrift.h"
@@ -20,6 +21,7 @@
 #include <QTabWidget>
 #include <QTimer>
 #include <QValidator>
+#include <functional>
 #include <gtest/gtest.h>
 
 namespace zp {
@@ -282,6 +284,51 @@ TEST(FrmPosition, LostFocusRepairsAndOkHandsTheBoxes) {
     EXPECT_EQ(s.Rahmenliste(1).X, 1600);
     EXPECT_EQ(s.Rahmenliste(1).Breite, 500);
     EXPECT_EQ(s.Rahmenliste(1).Verankert, -1);
+    EXPECT_EQ(s.LadeSperre, 0);
+}
+
+// Presses `taste` in the modal dialog once it is open, after `vorher` has changed its controls.
+void ImDialog(int taste, std::function<void(QWidget&)> vorher = {}) {
+    QTimer::singleShot(0, [taste, vorher] {
+        QWidget* w = QApplication::activeModalWidget();
+        ASSERT_NE(w, nullptr);
+        if (vorher) vorher(*w);
+        Taste(*w, taste);
+    });
+}
+
+TEST(Dialoge, OkAndCancelOfTheCurrentFramesDialogGoToTheirCommands) {
+    AppState s = Zustand();
+    test::ProtokollOberflaeche ui;
+    s.Vorschaumodus = -1;
+    ImDialog(Qt::Key_Escape,
+             [](QWidget& w) { w.findChild<QSlider*>(QStringLiteral("SliderAngle"))->setValue(30); });
+    SchriftdialogAusfuehren(nullptr, s, ui, 4);
+    EXPECT_EQ(s.Schriftliste(1).Angle, 0);
+    EXPECT_EQ(s.Vorschaumodus, 0);
+    ImDialog(Qt::Key_Return,
+             [](QWidget& w) { w.findChild<QSlider*>(QStringLiteral("SliderAngle"))->setValue(30); });
+    SchriftdialogAusfuehren(nullptr, s, ui, 4);
+    EXPECT_EQ(s.Schriftliste(1).Angle, 30);
+    EXPECT_EQ(s.Schriftliste(1).AusrichtungH, 1);
+
+    ImDialog(Qt::Key_Return,
+             [](QWidget& w) { w.findChild<QAbstractButton*>(QStringLiteral("Linienform_18"))->click(); });
+    LiniendialogAusfuehren(nullptr, s, ui, 1);
+    EXPECT_EQ(s.Linienliste(1).Form, 18);
+
+    s.AktuelleSeite.Breite = 1000;
+    s.AktuelleSeite.Höhe = 1000;
+    s.RahmenNummer = 2;
+    s.Rahmenliste(2).Breite = 300;
+    ImDialog(Qt::Key_Return,
+             [](QWidget& w) { w.findChild<QLineEdit*>(QStringLiteral("Text1"))->setText("900"); });
+    PositionsdialogAusfuehren(nullptr, s, ui);
+    EXPECT_EQ(s.Rahmenliste(2).X, 700); // repaired on Ok
+    ImDialog(Qt::Key_Escape,
+             [](QWidget& w) { w.findChild<QLineEdit*>(QStringLiteral("Text1"))->setText("5"); });
+    PositionsdialogAusfuehren(nullptr, s, ui);
+    EXPECT_EQ(s.Rahmenliste(2).X, 700);
     EXPECT_EQ(s.LadeSperre, 0);
 }
 

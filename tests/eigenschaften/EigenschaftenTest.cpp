@@ -1,12 +1,12 @@
 // The commands behind the text, shape and position dialogs and the format bar.
 
 #include "common/ProtokollOberflaeche.h"
-#include "core/AppState.h"
-#include "core/eigenschaften/Formatleiste.h"
-#include "core/eigenschaften/Liniendialog.h"
-#include "core/eigenschaften/Positionsdialog.h"
-#include "core/eigenschaften/Schriftdialog.h"
-#include "core/eigenschaften/Schnappschuss.h"
+#include "core/Formatbefehle.h"
+#include "core/Liniendialog.h"
+#include "core/Positionsdialog.h"
+#include "core/Schnappschuss.h"
+#include "core/Schriftdialog.h"
+#include "core/state/AppState.h"
 
 #include <QFile>
 #include <QTemporaryDir>

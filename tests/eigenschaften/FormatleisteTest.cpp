@@ -3,7 +3,7 @@
 
 #include "dialogs/Formatleiste.h"
 #include "common/ProtokollOberflaeche.h"
-#include "core/AppState.h"
+#include "core/state/AppState.h"
 
 #include <QAction>
 #include <QComboBox>

@@ -1,7 +1,7 @@
-#include "Vorschau.h"
+#include "Dialogvorschau.h"
 
-#include "compose/ImageCanvas.h"
-#include "core/AppState.h"
+#include "compose/canvas/ImageCanvas.h"
+#include "core/state/AppState.h"
 #include "render/ZeichneLinie.h"
 #include "render/ZeichneSchrift.h"
 

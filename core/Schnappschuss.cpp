@@ -1,6 +1,6 @@
 #include "Schnappschuss.h"
 
-#include "core/AppState.h"
+#include "core/state/AppState.h"
 
 #include <QDir>
 

@@ -1,8 +1,8 @@
-#include "Formatleiste.h"
+#include "Formatbefehle.h"
 
-#include "core/AppState.h"
-#include "core/Oberflaeche.h"
-#include "core/eigenschaften/Positionsdialog.h"
+#include "core/Positionsdialog.h"
+#include "core/state/AppState.h"
+#include "core/state/Oberflaeche.h"
 
 namespace zp {
 

@@ -1,8 +1,8 @@
 #include "Schriftdialog.h"
 
-#include "core/AppState.h"
-#include "core/Oberflaeche.h"
 #include "core/runtime/Basic.h"
+#include "core/state/AppState.h"
+#include "core/state/Oberflaeche.h"
 
 namespace zp {
 
