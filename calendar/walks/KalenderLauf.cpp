@@ -110,6 +110,135 @@ void NaechsteWoche(int jahr, int seite, double& wocheTag, double& wocheMonat) {
 
 // ---- Shapes --------------------------------------------------------------------------------
 
+namespace {
+
+// One step of a shape walk to the next cell; false where the walk of the page ends.
+bool RahmenSchritt(AppState& s, const ClassRahmen& T, ClassRahmen& A, const Monatstafel& tafel, int typ,
+                   int k, int seite, int& d, int& m, int& t) {
+    const int letzter = tafel.LetzterTag(m);
+    const double W = A.Breite, H = A.Höhe;
+    switch (typ) {
+    case Halbjahr:
+        if (k == 3 || k == 7) {
+            if (d == 6) return false;
+            A.Y -= s.Spaltenabstand;
+        } else if (k >= 4 && k <= 6) {
+            if (d == 31 && m == Endmonat(typ, seite)) return false;
+            A.X += W;
+            if (d == 31) {
+                ++m;
+                d = 0;
+                A.Y -= s.Spaltenabstand;
+                A.X = T.X;
+            }
+        } else
+            return false;
+        break;
+    case JahrA5:
+        if (k == 1 || k == 2) {
+            if (d == 2) return false;
+            Spiegelpunkt(s, T, A, true, true);
+        } else if (k == 3 || k == 7) {
+            if (d == 12) return false;
+            if (d < 6)
+                A.X -= s.Spaltenabstand;
+            else {
+                A.X += s.Spaltenabstand;
+                if (d == 6) Spiegelpunkt(s, T, A, true, true);
+            }
+        } else if (k >= 4 && k <= 6) {
+            if (d == 31 && m == 12) return false;
+            A.Y += m < 7 ? -H : H;
+            if (d == 31) {
+                ++m;
+                d = 0;
+                if (m < 7) {
+                    A.X -= s.Spaltenabstand;
+                    A.Y = T.Y;
+                } else {
+                    A.X += s.Spaltenabstand;
+                    Spiegelpunkt(s, T, A, m == 7, true);
+                }
+            }
+        } else
+            return false;
+        break;
+    case Tasche:
+        if (k == 1) {
+            s.Zeilenabstand = H / 2; // the height of one band of six months
+            return false;
+        } else if (k == 3 || k == 7) {
+            if (d == 12) return false;
+            A.X += W;
+            if (d == 6) {
+                A.X = T.X;
+                A.Y = T.Y + s.Zeilenabstand;
+            }
+            if (k == 3) s.Spaltenabstand = W;
+        } else if (k == 4 || k == 5) {
+            if (d == 31 && m == 12) return false;
+            A.Y += H;
+            if (tafel.Wochentag(m, d) == kSonntag) {
+                A.Y = m < 7 ? T.Y : T.Y + s.Zeilenabstand;
+                A.X += W;
+            }
+            if (d == letzter) {
+                d = 0;
+                ++m;
+                t = TascheMonatsanfang(s, T, A, tafel, m, H);
+            }
+        } else
+            return false;
+        break;
+    case Monat1:
+        if (k != 4 && k != 5) return false;
+        if (d == letzter) return false;
+        A.X += s.Spaltenabstand;
+        if (tafel.Wochentag(m, d) == kSonntag) {
+            A.X = T.X;
+            A.Y += s.Zeilenabstand;
+        }
+        break;
+    case Monat2:
+        if (k != 4 && k != 5) return false;
+        if (d == letzter) return false;
+        A.Y += s.Zeilenabstand;
+        break;
+    case Woche:
+        if (t == 7) return false;
+        if (d == letzter) {
+            d = 0;
+            ++m;
+            if (m > 12) return false;
+        }
+        if (k != 4 && k != 5) return false;
+        A.Y += s.Zeilenabstand;
+        break;
+    case Planer:
+        if (k == 3 || k == 7) {
+            if (d == 3) return false;
+            A.Y -= H;
+        } else if (k >= 4 && k <= 6) {
+            if (d == 31 && m == Endmonat(typ, seite)) return false;
+            A.Y -= s.Zeilenabstand;
+            if (d == 31) {
+                d = 0;
+                ++m;
+            }
+        } else if (k == 8) {
+            A.X += W;
+            if (d > 26) return false;
+        } else
+            return false;
+        break;
+    default:
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
 void KalenderRahmenLauf(AppState& s, KalenderZeichner& zeichner, int n) {
     if (!RahmenDa(s, n)) return;
     const int typ = static_cast<int>(s.Kalendertyp);
@@ -183,125 +312,7 @@ void KalenderRahmenLauf(AppState& s, KalenderZeichner& zeichner, int n) {
         s.Farbvorgabe = -1;
         if (!kalender || s.KalenderBearbeiten != 0) return;
 
-        const int letzter = tafel.LetzterTag(m);
-        const double W = A.Breite, H = A.Höhe;
-        switch (typ) {
-        case Halbjahr:
-            if (k == 3 || k == 7) {
-                if (d == 6) return;
-                A.Y -= s.Spaltenabstand;
-            } else if (k >= 4 && k <= 6) {
-                if (d == 31 && m == Endmonat(typ, seite)) return;
-                A.X += W;
-                if (d == 31) {
-                    ++m;
-                    d = 0;
-                    A.Y -= s.Spaltenabstand;
-                    A.X = T.X;
-                }
-            } else
-                return;
-            break;
-        case JahrA5:
-            if (k == 1 || k == 2) {
-                if (d == 2) return;
-                Spiegelpunkt(s, T, A, true, true);
-            } else if (k == 3 || k == 7) {
-                if (d == 12) return;
-                if (d < 6)
-                    A.X -= s.Spaltenabstand;
-                else {
-                    A.X += s.Spaltenabstand;
-                    if (d == 6) Spiegelpunkt(s, T, A, true, true);
-                }
-            } else if (k >= 4 && k <= 6) {
-                if (d == 31 && m == 12) return;
-                A.Y += m < 7 ? -H : H;
-                if (d == 31) {
-                    ++m;
-                    d = 0;
-                    if (m < 7) {
-                        A.X -= s.Spaltenabstand;
-                        A.Y = T.Y;
-                    } else {
-                        A.X += s.Spaltenabstand;
-                        Spiegelpunkt(s, T, A, m == 7, true);
-                    }
-                }
-            } else
-                return;
-            break;
-        case Tasche:
-            if (k == 1) {
-                s.Zeilenabstand = H / 2; // the height of one band of six months
-                return;
-            } else if (k == 3 || k == 7) {
-                if (d == 12) return;
-                A.X += W;
-                if (d == 6) {
-                    A.X = T.X;
-                    A.Y = T.Y + s.Zeilenabstand;
-                }
-                if (k == 3) s.Spaltenabstand = W;
-            } else if (k == 4 || k == 5) {
-                if (d == 31 && m == 12) return;
-                A.Y += H;
-                if (tafel.Wochentag(m, d) == kSonntag) {
-                    A.Y = m < 7 ? T.Y : T.Y + s.Zeilenabstand;
-                    A.X += W;
-                }
-                if (d == letzter) {
-                    d = 0;
-                    ++m;
-                    t = TascheMonatsanfang(s, T, A, tafel, m, H);
-                }
-            } else
-                return;
-            break;
-        case Monat1:
-            if (k != 4 && k != 5) return;
-            if (d == letzter) return;
-            A.X += s.Spaltenabstand;
-            if (tafel.Wochentag(m, d) == kSonntag) {
-                A.X = T.X;
-                A.Y += s.Zeilenabstand;
-            }
-            break;
-        case Monat2:
-            if (k != 4 && k != 5) return;
-            if (d == letzter) return;
-            A.Y += s.Zeilenabstand;
-            break;
-        case Woche:
-            if (t == 7) return;
-            if (d == letzter) {
-                d = 0;
-                ++m;
-                if (m > 12) return;
-            }
-            if (k != 4 && k != 5) return;
-            A.Y += s.Zeilenabstand;
-            break;
-        case Planer:
-            if (k == 3 || k == 7) {
-                if (d == 3) return;
-                A.Y -= H;
-            } else if (k >= 4 && k <= 6) {
-                if (d == 31 && m == Endmonat(typ, seite)) return;
-                A.Y -= s.Zeilenabstand;
-                if (d == 31) {
-                    d = 0;
-                    ++m;
-                }
-            } else if (k == 8) {
-                A.X += W;
-                if (d > 26) return;
-            } else
-                return;
-            break;
-        default:
-            return;
-        }
+        if (!RahmenSchritt(s, T, A, tafel, typ, k, seite, d, m, t)) return;
     }
 }
 
@@ -349,6 +360,189 @@ double WochenzaehlerBisSeite(const AppState& s, const Monatstafel& tafel, int ty
         }
     }
     return zaehler;
+}
+
+} // namespace
+
+namespace {
+
+// One step of a text walk to the next cell; false where the walk of the page ends. `letzter` and
+// `wt` are the last day of the month and the weekday of the cell just drawn.
+bool TextSchritt(AppState& s, const ClassRahmen& T, ClassRahmen& A, const Monatstafel& tafel, int typ, int k,
+                 int seite, int letzter, int wt, int& d, int& m, int& t) {
+    const double W = A.Breite, H = A.Höhe;
+    const bool tagesrolle = k >= 3 && k <= 6;
+    bool weiter = true;
+    switch (typ) {
+    case Halbjahr:
+        if (k == 2) {
+            if (m == Endmonat(typ, seite))
+                weiter = false;
+            else {
+                ++m;
+                A.Y -= s.Spaltenabstand;
+            }
+        } else if (tagesrolle) {
+            if (d == 31 && m == Endmonat(typ, seite))
+                weiter = false;
+            else {
+                A.X += W;
+                if (d == 31) {
+                    ++m;
+                    d = 0;
+                    A.Y -= s.Spaltenabstand;
+                    A.X = T.X;
+                }
+            }
+        } else
+            weiter = false;
+        break;
+    case JahrA5:
+        if (k == 1 || k == 7) {
+            if (m > 1)
+                weiter = false;
+            else {
+                Spiegelpunkt(s, T, A, true, true);
+                ++m;
+                s.Winkelvorgabe = 0;
+            }
+        } else if (k == 2) {
+            if (m == 12)
+                weiter = false;
+            else {
+                ++m;
+                if (m < 7)
+                    A.X -= s.Spaltenabstand;
+                else {
+                    s.Winkelvorgabe = 0;
+                    A.X += s.Spaltenabstand;
+                    if (m == 7) Spiegelpunkt(s, T, A, true, true);
+                }
+            }
+        } else if (tagesrolle) {
+            if (d == 31 && m == 12)
+                weiter = false;
+            else {
+                if (m < 7)
+                    A.Y -= H;
+                else {
+                    s.Winkelvorgabe = 0;
+                    A.Y += H;
+                }
+                if (d == 31) {
+                    ++m;
+                    d = 0;
+                    if (m < 7) {
+                        A.X -= s.Spaltenabstand;
+                        A.Y = T.Y;
+                    } else {
+                        s.Winkelvorgabe = 0;
+                        A.X += s.Spaltenabstand;
+                        Spiegelpunkt(s, T, A, m == 7, true);
+                    }
+                }
+            }
+        } else
+            weiter = false;
+        break;
+    case Tasche:
+        if (k == 2) {
+            if (m == 12)
+                weiter = false;
+            else {
+                ++m;
+                A.X += W;
+                if (m == 7) {
+                    A.X = T.X;
+                    A.Y = T.Y + s.Zeilenabstand;
+                }
+                if (m >= 7) s.Spaltenabstand = W;
+            }
+        } else if (k == 3) {
+            if (d == 31 && m == 12)
+                weiter = false;
+            else {
+                A.Y += H;
+                if (wt == kSonntag) {
+                    A.Y = m < 7 ? T.Y : T.Y + s.Zeilenabstand;
+                    A.X += W;
+                }
+                // The text side turns the month at day 31; days past the month's end aren't
+                // drawn and the next month starts at the same place as the shapes' month.
+                if (d == 31) {
+                    d = 0;
+                    ++m;
+                    t = TascheMonatsanfang(s, T, A, tafel, m, H);
+                }
+            }
+        } else
+            weiter = false;
+        break;
+    case Monat1:
+        if (!tagesrolle || d == letzter)
+            weiter = false;
+        else {
+            A.X += s.Spaltenabstand;
+            if (wt == kSonntag) {
+                A.X = T.X;
+                A.Y += s.Zeilenabstand;
+            }
+        }
+        break;
+    case Monat2:
+        if (!tagesrolle || d == letzter)
+            weiter = false;
+        else
+            A.Y += s.Zeilenabstand;
+        break;
+    case Woche:
+        if (!tagesrolle)
+            weiter = false;
+        else {
+            if (d == letzter) {
+                d = 0;
+                ++m;
+                if (m > 12) {
+                    weiter = false;
+                    break;
+                }
+            }
+            if (k == 3) {
+                s.NaechsteWocheTag = d;
+                s.NaechsteWocheMonat = m;
+            }
+            if (t == 7)
+                weiter = false;
+            else
+                A.Y += s.Zeilenabstand;
+        }
+        break;
+    case Planer:
+        if (k == 2) {
+            if (m == Endmonat(typ, seite))
+                weiter = false;
+            else {
+                ++m;
+                A.Y -= H;
+            }
+        } else if (k == 3 || k == 4 || k == 6) {
+            if (d == 31 && m == Endmonat(typ, seite))
+                weiter = false;
+            else {
+                A.Y -= s.Zeilenabstand;
+                if (d == 31) {
+                    ++m;
+                    d = 0;
+                }
+            }
+        } else
+            weiter = false;
+        break;
+    default:
+        weiter = false;
+        break;
+    }
+    return weiter;
 }
 
 } // namespace
@@ -480,179 +674,7 @@ void KalenderTextLauf(AppState& s, KalenderZeichner& zeichner, int n) {
         s.Farbvorgabe = -1;
         if (!kalender || s.KalenderBearbeiten != 0) break;
 
-        const double W = A.Breite, H = A.Höhe;
-        const bool tagesrolle = k >= 3 && k <= 6;
-        bool weiter = true;
-        switch (typ) {
-        case Halbjahr:
-            if (k == 2) {
-                if (m == Endmonat(typ, seite))
-                    weiter = false;
-                else {
-                    ++m;
-                    A.Y -= s.Spaltenabstand;
-                }
-            } else if (tagesrolle) {
-                if (d == 31 && m == Endmonat(typ, seite))
-                    weiter = false;
-                else {
-                    A.X += W;
-                    if (d == 31) {
-                        ++m;
-                        d = 0;
-                        A.Y -= s.Spaltenabstand;
-                        A.X = T.X;
-                    }
-                }
-            } else
-                weiter = false;
-            break;
-        case JahrA5:
-            if (k == 1 || k == 7) {
-                if (m > 1)
-                    weiter = false;
-                else {
-                    Spiegelpunkt(s, T, A, true, true);
-                    ++m;
-                    s.Winkelvorgabe = 0;
-                }
-            } else if (k == 2) {
-                if (m == 12)
-                    weiter = false;
-                else {
-                    ++m;
-                    if (m < 7)
-                        A.X -= s.Spaltenabstand;
-                    else {
-                        s.Winkelvorgabe = 0;
-                        A.X += s.Spaltenabstand;
-                        if (m == 7) Spiegelpunkt(s, T, A, true, true);
-                    }
-                }
-            } else if (tagesrolle) {
-                if (d == 31 && m == 12)
-                    weiter = false;
-                else {
-                    if (m < 7)
-                        A.Y -= H;
-                    else {
-                        s.Winkelvorgabe = 0;
-                        A.Y += H;
-                    }
-                    if (d == 31) {
-                        ++m;
-                        d = 0;
-                        if (m < 7) {
-                            A.X -= s.Spaltenabstand;
-                            A.Y = T.Y;
-                        } else {
-                            s.Winkelvorgabe = 0;
-                            A.X += s.Spaltenabstand;
-                            Spiegelpunkt(s, T, A, m == 7, true);
-                        }
-                    }
-                }
-            } else
-                weiter = false;
-            break;
-        case Tasche:
-            if (k == 2) {
-                if (m == 12)
-                    weiter = false;
-                else {
-                    ++m;
-                    A.X += W;
-                    if (m == 7) {
-                        A.X = T.X;
-                        A.Y = T.Y + s.Zeilenabstand;
-                    }
-                    if (m >= 7) s.Spaltenabstand = W;
-                }
-            } else if (k == 3) {
-                if (d == 31 && m == 12)
-                    weiter = false;
-                else {
-                    A.Y += H;
-                    if (wt == kSonntag) {
-                        A.Y = m < 7 ? T.Y : T.Y + s.Zeilenabstand;
-                        A.X += W;
-                    }
-                    // The text side turns the month at day 31; days past the month's end aren't
-                    // drawn and the next month starts at the same place as the shapes' month.
-                    if (d == 31) {
-                        d = 0;
-                        ++m;
-                        t = TascheMonatsanfang(s, T, A, tafel, m, H);
-                    }
-                }
-            } else
-                weiter = false;
-            break;
-        case Monat1:
-            if (!tagesrolle || d == letzter)
-                weiter = false;
-            else {
-                A.X += s.Spaltenabstand;
-                if (wt == kSonntag) {
-                    A.X = T.X;
-                    A.Y += s.Zeilenabstand;
-                }
-            }
-            break;
-        case Monat2:
-            if (!tagesrolle || d == letzter)
-                weiter = false;
-            else
-                A.Y += s.Zeilenabstand;
-            break;
-        case Woche:
-            if (!tagesrolle)
-                weiter = false;
-            else {
-                if (d == letzter) {
-                    d = 0;
-                    ++m;
-                    if (m > 12) {
-                        weiter = false;
-                        break;
-                    }
-                }
-                if (k == 3) {
-                    s.NaechsteWocheTag = d;
-                    s.NaechsteWocheMonat = m;
-                }
-                if (t == 7)
-                    weiter = false;
-                else
-                    A.Y += s.Zeilenabstand;
-            }
-            break;
-        case Planer:
-            if (k == 2) {
-                if (m == Endmonat(typ, seite))
-                    weiter = false;
-                else {
-                    ++m;
-                    A.Y -= H;
-                }
-            } else if (k == 3 || k == 4 || k == 6) {
-                if (d == 31 && m == Endmonat(typ, seite))
-                    weiter = false;
-                else {
-                    A.Y -= s.Zeilenabstand;
-                    if (d == 31) {
-                        ++m;
-                        d = 0;
-                    }
-                }
-            } else
-                weiter = false;
-            break;
-        default:
-            weiter = false;
-            break;
-        }
-        if (!weiter) break;
+        if (!TextSchritt(s, T, A, tafel, typ, k, seite, letzter, wt, d, m, t)) break;
     }
     // A right angle left for a text that had nothing to draw must not turn the next object.
     s.Winkelvorgabe = -1;
