@@ -71,12 +71,12 @@ void ZeichneBildHintergrund(AppState& s, Canvas& ziel) {
     NeuesArbeitsbild(s.AktuellesBild, datei);
     if (!DateiVorhanden(datei)) return;
 
-    BildLaden(s, s.AktuellesBild, lead);
+    const double f = s.Zeichenfaktor * s.Geraetefaktor;
+    BildLaden(s, s.AktuellesBild, lead, BildschirmGroesse(s, ziel, r.Breite * f, r.Höhe * f));
     if (ziel.Art() == CanvasArt::Drucker) {
         // The printer gets the label at its own size; the print zoom plays no part here.
         lead.Render(ziel, QRectF(0, 0, e.Breite * s.Geraetefaktor, e.Höhe * s.Geraetefaktor));
     } else {
-        const double f = s.Zeichenfaktor * s.Geraetefaktor;
         lead.Render(ziel, QRectF(r.X * f, r.Y * f, r.Breite * f, r.Höhe * f));
     }
 }
@@ -114,7 +114,9 @@ void ZeichneBildRahmen(AppState& s, Canvas& ziel, int n) {
 
     Lead& lead = BildwerkVon(s).Lead;
     LeadRechteckLeeren(lead);
-    BildLaden(s, bild, lead);
+    const double f = s.Zeichenfaktor * s.Geraetefaktor;
+    // The fit only makes the frame smaller: its full size is enough for a reduced screen copy.
+    BildLaden(s, bild, lead, BildschirmGroesse(s, ziel, rahmen.Breite * f, rahmen.Höhe * f));
     if (!lead.HatBild()) return;
 
     // The fit works on a copy: the document's frame keeps its size.
@@ -122,7 +124,6 @@ void ZeichneBildRahmen(AppState& s, Canvas& ziel, int n) {
     if (BildWirdEingepasst(s, rahmen))
         r = EingepassterRahmen(rahmen.X, rahmen.Y, rahmen.Breite, rahmen.Höhe, lead.BitmapWidth(),
                                lead.BitmapHeight());
-    const double f = s.Zeichenfaktor * s.Geraetefaktor;
     lead.Render(ziel, QRectF(r.x() * f, r.y() * f, r.width() * f, r.height() * f));
 }
 
