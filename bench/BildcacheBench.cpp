@@ -3,9 +3,9 @@
 // photograph is loaded and corrected) and the following ones (the finished bitmap comes from the
 // picture cache). The goal for the first redraw is under 60 ms, for the following ones under
 // 30 ms; Qt's plain decode of the photograph is the floor the first one is compared with.
-#include "compose/ImageCanvas.h"
 #include "compose/ZeichneSeite.h"
-#include "core/AppState.h"
+#include "compose/canvas/ImageCanvas.h"
+#include "core/state/AppState.h"
 
 #include <QDir>
 #include <QImage>

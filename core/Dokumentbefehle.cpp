@@ -1,9 +1,9 @@
-#include "Dokumentbefehle.h"
+#include "core/Dokumentbefehle.h"
 
-#include "AppState.h"
-#include "Dokumentdienste.h"
-#include "Oberflaeche.h"
-#include "calendar/Kalendertypen.h"
+#include "calendar/data/Kalendertypen.h"
+#include "core/Dokumentdienste.h"
+#include "core/state/AppState.h"
+#include "core/state/Oberflaeche.h"
 
 #include <QFileInfo>
 #include <QStringList>

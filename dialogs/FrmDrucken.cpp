@@ -1,10 +1,10 @@
-#include "FrmDrucken.h"
+#include "dialogs/FrmDrucken.h"
 
-#include "core/AppState.h"
-#include "core/Editionen.h"
-#include "core/Oberflaeche.h"
 #include "core/Seitennavigation.h"
 #include "core/runtime/Basic.h"
+#include "core/state/AppState.h"
+#include "core/state/Editionen.h"
+#include "core/state/Oberflaeche.h"
 
 #include <QApplication>
 #include <QButtonGroup>

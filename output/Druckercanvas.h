@@ -4,7 +4,7 @@
 // system or, as "PDF-Datei", through a QPdfWriter into a PDF file that replaces the target only once
 // it is complete; a file needs nothing of the print system.
 
-#include "compose/PainterCanvas.h"
+#include "compose/canvas/PainterCanvas.h"
 #include "model/SeiteEtikett.h"
 #include "output/Druckausgabe.h"
 

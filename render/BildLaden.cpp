@@ -1,10 +1,10 @@
-#include "BildLaden.h"
+#include "render/BildLaden.h"
 
-#include "core/AppState.h"
-#include "core/Oberflaeche.h"
+#include "core/state/AppState.h"
+#include "core/state/Oberflaeche.h"
 #include "render/Bildwerk.h"
 
-#include "compose/canvas.h"
+#include "compose/canvas/canvas.h"
 
 #include <QFileInfo>
 #include <cmath>

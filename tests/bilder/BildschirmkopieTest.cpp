@@ -2,8 +2,8 @@
 // photograph that the screen gets: the same levels as the library's steps, the same look as the
 // full picture reduced to the frame.
 #include "Bildhilfe.h"
-#include "compose/ImageCanvas.h"
-#include "core/AppState.h"
+#include "compose/canvas/ImageCanvas.h"
+#include "core/state/AppState.h"
 #include "render/BildLaden.h"
 #include "render/Bildwerk.h"
 #include "render/Farbkorrektur.h"

@@ -1,7 +1,7 @@
 // Each text is shaped once: the width the canvas measures comes from the same layout it draws,
 // and must stay the width the font metrics give; the cache keeps the strings a page repeats.
-#include "compose/Textsatzcache.h"
-#include "compose/ImageCanvas.h"
+#include "compose/canvas/Textsatzcache.h"
+#include "compose/canvas/ImageCanvas.h"
 
 #include <QFontMetrics>
 #include <gtest/gtest.h>

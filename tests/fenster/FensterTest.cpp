@@ -2,7 +2,7 @@
 // and commands run through the window's own controls.
 #include "Attrappen.h"
 
-#include "core/Editionen.h"
+#include "core/state/Editionen.h"
 #include "dialogs/FrmDrucken.h"
 #include "dialogs/Monatskalender.h"
 #include "dialogs/Seitenansicht.h"
@@ -259,7 +259,8 @@ TEST(Befehle, JahrAusDerListeMitJaUndNein) {
     emit jahr->lineEdit()->editingFinished();
     EXPECT_EQ(f.s.Kalenderjahr, 2005);
     EXPECT_EQ(jahr->currentText(), "2005");
-    EXPECT_EQ(f.fenster->meldungen.count(QStringLiteral("Bitte geben Sie ein Jahr zwischen 1 und 9999 ein.")), 1);
+    EXPECT_EQ(f.fenster->meldungen.count(QStringLiteral("Bitte geben Sie ein Jahr zwischen 1 und 9999 ein.")),
+              1);
 }
 
 TEST(Befehle, KartenMitDatensaetzenBlaettern) {

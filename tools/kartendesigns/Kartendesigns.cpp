@@ -1,8 +1,8 @@
 #include "Kartendesigns.h"
 
-#include "core/AppState.h"
 #include "core/runtime/Basic.h"
-#include "model/Objekte.h"
+#include "core/state/AppState.h"
+#include "core/state/Objekte.h"
 
 #include <cmath>
 #include <vector>

@@ -1,7 +1,7 @@
 // Writes the shipped data of the card and label editions into the folder given (the repository's
 // daten/programm): Layout1.lay ... Layout5.lay and daten.dat.
-#include "core/AppState.h"
 #include "core/runtime/TextDatei.h"
+#include "core/state/AppState.h"
 #include "persist/Datensaetze.h"
 #include "persist/Layout.h"
 #include "tools/kartendesigns/Kartendesigns.h"
