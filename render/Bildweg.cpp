@@ -4,6 +4,7 @@
 
 #include "compose/canvas/canvas.h"
 #include "core/state/AppState.h"
+#include "core/state/Massstab.h"
 #include "render/BildLaden.h"
 #include "render/Bildwerk.h"
 
@@ -71,13 +72,16 @@ void ZeichneBildHintergrund(AppState& s, Canvas& ziel) {
     NeuesArbeitsbild(s.AktuellesBild, datei);
     if (!DateiVorhanden(datei)) return;
 
-    const double f = s.Zeichenfaktor * s.Geraetefaktor;
-    BildLaden(s, s.AktuellesBild, lead, BildschirmGroesse(s, ziel, r.Breite * f, r.Höhe * f));
+    const Massstab bildschirm = Massstab::Zeichnung(s);
+    BildLaden(s, s.AktuellesBild, lead,
+              BildschirmGroesse(s, ziel, bildschirm.Twips(r.Breite), bildschirm.Twips(r.Höhe)));
     if (ziel.Art() == CanvasArt::Drucker) {
         // The printer gets the label at its own size; the print zoom plays no part here.
-        lead.Render(ziel, QRectF(0, 0, e.Breite * s.Geraetefaktor, e.Höhe * s.Geraetefaktor));
+        const Massstab g = Massstab::Geraet(s);
+        lead.Render(ziel, QRectF(0, 0, g.Twips(e.Breite), g.Twips(e.Höhe)));
     } else {
-        lead.Render(ziel, QRectF(r.X * f, r.Y * f, r.Breite * f, r.Höhe * f));
+        const Massstab m = Massstab::Zeichnung(s);
+        lead.Render(ziel, QRectF(m.Twips(r.X), m.Twips(r.Y), m.Twips(r.Breite), m.Twips(r.Höhe)));
     }
 }
 
@@ -114,9 +118,10 @@ void ZeichneBildRahmen(AppState& s, Canvas& ziel, int n) {
 
     Lead& lead = BildwerkVon(s).Lead;
     LeadRechteckLeeren(lead);
-    const double f = s.Zeichenfaktor * s.Geraetefaktor;
     // The fit only makes the frame smaller: its full size is enough for a reduced screen copy.
-    BildLaden(s, bild, lead, BildschirmGroesse(s, ziel, rahmen.Breite * f, rahmen.Höhe * f));
+    const Massstab bildschirm = Massstab::Zeichnung(s);
+    BildLaden(s, bild, lead,
+              BildschirmGroesse(s, ziel, bildschirm.Twips(rahmen.Breite), bildschirm.Twips(rahmen.Höhe)));
     if (!lead.HatBild()) return;
 
     // The fit works on a copy: the document's frame keeps its size.
@@ -124,7 +129,8 @@ void ZeichneBildRahmen(AppState& s, Canvas& ziel, int n) {
     if (BildWirdEingepasst(s, rahmen))
         r = EingepassterRahmen(rahmen.X, rahmen.Y, rahmen.Breite, rahmen.Höhe, lead.BitmapWidth(),
                                lead.BitmapHeight());
-    lead.Render(ziel, QRectF(r.x() * f, r.y() * f, r.width() * f, r.height() * f));
+    const Massstab m = Massstab::Zeichnung(s);
+    lead.Render(ziel, QRectF(m.Twips(r.x()), m.Twips(r.y()), m.Twips(r.width()), m.Twips(r.height())));
 }
 
 } // namespace zp
