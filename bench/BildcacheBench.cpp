@@ -6,6 +6,7 @@
 #include "compose/ZeichneSeite.h"
 #include "compose/canvas/ImageCanvas.h"
 #include "core/state/AppState.h"
+#include "core/state/Massstab.h"
 
 #include <QDir>
 #include <QImage>
@@ -80,7 +81,8 @@ void Neuzeichnen(zp::AppState& s, zp::ImageCanvas& seite) {
 }
 
 QSize Seitengroesse() {
-    return {static_cast<int>(850 * 5.67 * 1.5 / 15) + 1, static_cast<int>(550 * 5.67 * 1.5 / 15) + 1};
+    return {static_cast<int>(850 * zp::TwipsJeZehntelmm * 1.5 / 15) + 1,
+            static_cast<int>(550 * zp::TwipsJeZehntelmm * 1.5 / 15) + 1};
 }
 
 void KarteErsterAufbau(benchmark::State& state) {
