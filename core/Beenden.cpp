@@ -1,6 +1,7 @@
 #include "Beenden.h"
 
 #include "AppState.h"
+#include "Sitzung.h"
 #include "Start.h"
 #include "calendar/Kalenderdateien.h"
 #include "calendar/Kalendertypen.h"
@@ -12,7 +13,8 @@
 namespace zp {
 
 bool BeendenDateienSchreiben(AppState& s, Oberflaeche& ui) {
-    bool ok = true;
+    // First, while Datendatei and AktuelleDatei still name the user's files.
+    bool ok = SitzungSichern(s, ui);
     if (s.IstVisitenkarte != 0) ok = SpeichereDatensaetze(s, ui) && ok;
     ok = SaveSettings(s, ui) && ok;
     if (s.IstKalender != 0) {

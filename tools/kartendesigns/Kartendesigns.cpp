@@ -2,7 +2,9 @@
 
 #include "core/AppState.h"
 #include "core/runtime/Basic.h"
+#include "core/runtime/TextDatei.h"
 #include "model/Objekte.h"
+#include "persist/Design.h"
 
 #include <cmath>
 #include <vector>
@@ -319,6 +321,13 @@ void BaueKartendesign(AppState& s, int n) {
     Grunddokument(s);
     Design(s, n);
     Stapelordnung(s);
+}
+
+QByteArray GaleriedesignBytes(const AppState& s) {
+    // Line 5 marks a shipped template: its load never replaces the user's records.
+    QStringList zeilen = ZeilenAusBytes(SchreibeDesign(s));
+    if (zeilen.size() > 4) zeilen[4] = QStringLiteral("Vorlage");
+    return BytesAusZeilen(zeilen);
 }
 
 void BaueLayout(AppState& s, int k) {
