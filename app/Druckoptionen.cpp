@@ -1,7 +1,7 @@
 #include "app/Druckoptionen.h"
 
 #include "app/Kommandozeile.h"
-#include "core/AppState.h"
+#include "core/state/AppState.h"
 
 #include <QRegularExpression>
 

@@ -1,10 +1,10 @@
-#include "Kommandozeile.h"
+#include "app/Kommandozeile.h"
 
 #include "render/Bildwerk.h"
 
-#include "core/AppState.h"
 #include "core/Programmordner.h"
 #include "core/Start.h"
+#include "core/state/AppState.h"
 #include "render/Bildwerk.h"
 
 #include <QDir>

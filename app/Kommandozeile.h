@@ -12,7 +12,7 @@
 //
 // The library is linked as object files, so such a file needs no reference from elsewhere.
 
-#include "core/Oberflaeche.h"
+#include "core/state/Oberflaeche.h"
 
 #include <QString>
 #include <QStringList>

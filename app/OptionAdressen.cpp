@@ -1,10 +1,10 @@
 // --importieren, --datensatz, --layout: the record panel of the card and label editions.
-#include "Kommandozeile.h"
+#include "app/Kommandozeile.h"
 
-#include "core/AppState.h"
 #include "core/Datensatzbefehle.h"
 #include "core/Importbefehl.h"
 #include "core/runtime/Basic.h"
+#include "core/state/AppState.h"
 
 #include <QFileInfo>
 

@@ -1,5 +1,5 @@
 // --beenden: the files that the program writes when it ends.
-#include "Kommandozeile.h"
+#include "app/Kommandozeile.h"
 
 #include "core/Beenden.h"
 

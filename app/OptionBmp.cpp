@@ -1,7 +1,7 @@
 // --bmp DATEI: the page as a bitmap file, as "Bild speichern" writes it without its dialog.
-#include "Kommandozeile.h"
+#include "app/Kommandozeile.h"
 
-#include "core/AppState.h"
+#include "core/state/AppState.h"
 #include "output/Bitmapexport.h"
 
 namespace {

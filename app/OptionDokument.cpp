@@ -1,10 +1,10 @@
 // --oeffnen, --speichern, --speichern-unter: the File menu's Open, Save and Save As, with the file
 // name given instead of chosen in the dialog. They run the same commands as the menu entries.
-#include "Kommandozeile.h"
+#include "app/Kommandozeile.h"
 
-#include "core/AppState.h"
 #include "core/Dokumentbefehle.h"
-#include "output/Programmdienste.h"
+#include "core/Programmdienste.h"
+#include "core/state/AppState.h"
 
 #include <QFileInfo>
 

@@ -3,7 +3,7 @@
 // --schnittrahmen, --abgleich); --word.
 #include "app/Druckoptionen.h"
 #include "app/Kommandozeile.h"
-#include "output/Programmdruck.h"
+#include "core/Programmdruck.h"
 
 #include <QElapsedTimer>
 #include <cstdio>

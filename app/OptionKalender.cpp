@@ -1,13 +1,13 @@
 // The calendar's options: --typ, --variante, --jahr, --feiertage and --seite stand for the type
 // buttons, the variant box, a click in the year list, the holiday button and the page spinner.
-#include "Kommandozeile.h"
+#include "app/Kommandozeile.h"
 
-#include "calendar/Feiertage.h"
-#include "calendar/KalenderLauf.h"
-#include "calendar/Kalendertypen.h"
-#include "calendar/Tagesdaten.h"
-#include "core/AppState.h"
+#include "calendar/data/Feiertage.h"
+#include "calendar/data/Kalendertypen.h"
+#include "calendar/data/Tagesdaten.h"
+#include "calendar/walks/KalenderLauf.h"
 #include "core/runtime/Basic.h"
+#include "core/state/AppState.h"
 #include "persist/Design.h"
 
 #include <cmath>

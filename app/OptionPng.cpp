@@ -1,9 +1,9 @@
 // --png DATEI: the page picture as the screen shows it, written as a PNG file.
 // --zoom N: the zoom of the page picture (100 without a window, as the zoom menus set it).
-#include "Kommandozeile.h"
+#include "app/Kommandozeile.h"
 
 #include "compose/Seitenbild.h"
-#include "core/AppState.h"
+#include "core/state/AppState.h"
 
 #include <QImageWriter>
 #include <QSaveFile>

@@ -1,9 +1,9 @@
 // The executable `zp`: the main window, or a headless batch run when options say what to do.
-#include "Kommandozeile.h"
+#include "app/Kommandozeile.h"
 
-#include "core/AppState.h"
 #include "core/Programmordner.h"
 #include "core/Start.h"
+#include "core/state/AppState.h"
 #include "dialogs/Hauptfenster.h"
 
 #include <QApplication>

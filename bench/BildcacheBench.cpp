@@ -2,9 +2,9 @@
 // 4000 x 3000 JPEG photograph with corrections in a picture frame: the first redraw (the
 // photograph is loaded and corrected) and the following ones (the finished bitmap comes from the
 // picture cache). The goal for the following redraws is under 30 ms.
-#include "compose/ImageCanvas.h"
 #include "compose/ZeichneSeite.h"
-#include "core/AppState.h"
+#include "compose/canvas/ImageCanvas.h"
+#include "core/state/AppState.h"
 
 #include <QDir>
 #include <QImage>

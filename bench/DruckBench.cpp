@@ -1,12 +1,12 @@
 // Whole print runs into one PDF: the 53 pages of a Woche calendar, the 12 pages of Monat 1, and
 // 240 addresses on a 3 x 8 label sheet (10 pages).
 #include "app/Kommandozeile.h"
-#include "core/AppState.h"
-#include "core/Oberflaeche.h"
+#include "core/Programmdruck.h"
 #include "core/Programmordner.h"
 #include "core/Start.h"
+#include "core/state/AppState.h"
+#include "core/state/Oberflaeche.h"
 #include "output/Druckauftrag.h"
-#include "output/Programmdruck.h"
 
 #include <QCoreApplication>
 #include <QDir>

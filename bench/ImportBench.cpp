@@ -1,9 +1,9 @@
 // Import of a text file with 10 000 addresses: the whole command as the menu runs it, from the
 // file to the record on view. The goal is well under a second.
-#include "core/AppState.h"
 #include "core/Importbefehl.h"
-#include "core/Oberflaeche.h"
 #include "core/runtime/TextDatei.h"
+#include "core/state/AppState.h"
+#include "core/state/Oberflaeche.h"
 #include "persist/Import.h"
 
 #include <QTemporaryDir>

@@ -1,11 +1,11 @@
 // A calendar page redrawn at zoom 150 as the main window redraws its page picture after an edit
 // (ZeichneSeite on the kept image canvas of a Seitenmaler), with a standard design: page 1 of
 // each type and variant, and week page 30.
-#include "calendar/Feiertage.h"
-#include "calendar/KalenderLauf.h"
-#include "calendar/Standarddesign.h"
+#include "calendar/data/Feiertage.h"
+#include "calendar/data/Standarddesign.h"
+#include "calendar/walks/KalenderLauf.h"
 #include "compose/Seitenmaler.h"
-#include "core/AppState.h"
+#include "core/state/AppState.h"
 
 #include <QGuiApplication>
 #include <benchmark/benchmark.h>

@@ -2,10 +2,10 @@
 // Documents of the composition benchmarks: the built-in document with texts typed into its boxes,
 // and a page rich in effects.
 
-#include "core/AppState.h"
-#include "core/Oberflaeche.h"
 #include "core/Start.h"
-#include "model/Objekte.h"
+#include "core/state/AppState.h"
+#include "core/state/Oberflaeche.h"
+#include "core/state/Objekte.h"
 
 #include <QTemporaryDir>
 

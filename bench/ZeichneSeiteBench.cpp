@@ -1,9 +1,9 @@
 // Redraw of the page picture at zoom 150, as after each keystroke or drag.
 #include "Musterseiten.h"
 
-#include "compose/ImageCanvas.h"
 #include "compose/Seitenbild.h"
 #include "compose/ZeichneSeite.h"
+#include "compose/canvas/ImageCanvas.h"
 
 #include <benchmark/benchmark.h>
 

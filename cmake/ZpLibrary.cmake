@@ -1,22 +1,44 @@
-# zp_library(NAME dir [EXCLUDE regex] LINKS ...): a static library of every .cpp/.h in the folder,
-# so that adding a file needs no edit here.
+include(${CMAKE_CURRENT_LIST_DIR}/Schichten.cmake)
+
+# zp_schicht(folder VAR_TARGET VAR_USES): the library of a folder in the layer table and the
+# folders it uses directly.
+function(zp_schicht folder out_target out_uses)
+  foreach(zeile ${ZP_SCHICHTEN})
+    separate_arguments(teile UNIX_COMMAND "${zeile}")
+    list(POP_FRONT teile ordner ziel)
+    if(ordner STREQUAL folder)
+      set(${out_target} ${ziel} PARENT_SCOPE)
+      set(${out_uses} ${teile} PARENT_SCOPE)
+      return()
+    endif()
+  endforeach()
+  message(FATAL_ERROR "${folder} is not in the layer table cmake/Schichten.cmake")
+endfunction()
+
+# zp_library(NAME SOURCES files... [LINKS libs...]): the static library of the current folder.
+# It links the libraries of the folders that the layer table lets it use, plus LINKS (Qt,
+# Magick++). A folder of headers only becomes an interface library.
 function(zp_library name)
-  cmake_parse_arguments(ARG "" "EXCLUDE" "LINKS" ${ARGN})
-  file(GLOB_RECURSE sources CONFIGURE_DEPENDS
-       ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
-  if(ARG_EXCLUDE)
-    list(FILTER sources EXCLUDE REGEX "${ARG_EXCLUDE}")
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  file(RELATIVE_PATH folder ${PROJECT_SOURCE_DIR} ${CMAKE_CURRENT_SOURCE_DIR})
+  zp_schicht(${folder} ziel uses)
+  if(NOT ziel STREQUAL name)
+    message(FATAL_ERROR "${folder}: the layer table names its library ${ziel}, not ${name}")
   endif()
-  set(cpp ${sources})
+  set(links ${ARG_LINKS})
+  foreach(used ${uses})
+    zp_schicht(${used} used_target ignored)
+    list(APPEND links ${used_target})
+  endforeach()
+  set(cpp ${ARG_SOURCES})
   list(FILTER cpp INCLUDE REGEX "\\.cpp$")
   if(cpp)
-    add_library(${name} STATIC ${sources})
+    add_library(${name} STATIC ${ARG_SOURCES})
     target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
-    target_link_libraries(${name} PUBLIC ${ARG_LINKS})
+    target_link_libraries(${name} PUBLIC ${links})
   else()
-    # A folder of headers only, so far.
-    add_library(${name} INTERFACE)
+    add_library(${name} INTERFACE ${ARG_SOURCES})
     target_include_directories(${name} INTERFACE ${PROJECT_SOURCE_DIR})
-    target_link_libraries(${name} INTERFACE ${ARG_LINKS})
+    target_link_libraries(${name} INTERFACE ${links})
   endif()
 endfunction()

@@ -1,8 +1,8 @@
-#include "Seitenbild.h"
+#include "compose/Seitenbild.h"
 
-#include "compose/GdiRunden.h"
 #include "compose/Seitenmaler.h"
-#include "core/AppState.h"
+#include "compose/canvas/GdiRunden.h"
+#include "core/state/AppState.h"
 
 #include <algorithm>
 

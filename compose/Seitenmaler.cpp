@@ -1,9 +1,9 @@
-#include "Seitenmaler.h"
+#include "compose/Seitenmaler.h"
 
-#include "compose/ImageCanvas.h"
 #include "compose/Seitenbild.h"
 #include "compose/ZeichneSeite.h"
-#include "core/AppState.h"
+#include "compose/canvas/ImageCanvas.h"
+#include "core/state/AppState.h"
 
 namespace zp {
 

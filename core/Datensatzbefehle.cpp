@@ -1,8 +1,8 @@
-#include "Datensatzbefehle.h"
+#include "core/Datensatzbefehle.h"
 
-#include "core/AppState.h"
-#include "core/Oberflaeche.h"
 #include "core/runtime/Basic.h"
+#include "core/state/AppState.h"
+#include "core/state/Oberflaeche.h"
 #include "persist/Datensaetze.h"
 #include "persist/Layout.h"
 

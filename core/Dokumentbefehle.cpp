@@ -1,10 +1,10 @@
-#include "Dokumentbefehle.h"
+#include "core/Dokumentbefehle.h"
 
-#include "AppState.h"
-#include "Dokumentdienste.h"
-#include "Oberflaeche.h"
-#include "Seitennavigation.h"
-#include "calendar/Kalendertypen.h"
+#include "calendar/data/Kalendertypen.h"
+#include "core/Dokumentdienste.h"
+#include "core/Seitennavigation.h"
+#include "core/state/AppState.h"
+#include "core/state/Oberflaeche.h"
 
 #include <QFileInfo>
 #include <QRegularExpression>

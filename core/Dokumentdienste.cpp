@@ -1,6 +1,6 @@
-#include "Dokumentdienste.h"
+#include "core/Dokumentdienste.h"
 
-#include "Oberflaeche.h"
+#include "core/state/Oberflaeche.h"
 
 #include <QString>
 #include <exception>

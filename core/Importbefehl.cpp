@@ -1,9 +1,9 @@
-#include "Importbefehl.h"
+#include "core/Importbefehl.h"
 
-#include "core/AppState.h"
 #include "core/Datensatzbefehle.h"
-#include "core/Oberflaeche.h"
 #include "core/runtime/TextDatei.h"
+#include "core/state/AppState.h"
+#include "core/state/Oberflaeche.h"
 #include "persist/Dateimeldungen.h"
 #include "persist/Import.h"
 

@@ -1,4 +1,4 @@
-#include "Programmordner.h"
+#include "core/Programmordner.h"
 
 #include <QCoreApplication>
 #include <QDir>

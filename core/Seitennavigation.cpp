@@ -1,8 +1,8 @@
-#include "Seitennavigation.h"
+#include "core/Seitennavigation.h"
 
-#include "AppState.h"
-#include "calendar/KalenderLauf.h"
-#include "runtime/Basic.h"
+#include "calendar/data/Kalendertypen.h"
+#include "core/runtime/Basic.h"
+#include "core/state/AppState.h"
 
 namespace zp {
 

@@ -1,8 +1,8 @@
-#include "Sitzung.h"
+#include "core/Sitzung.h"
 
-#include "AppState.h"
-#include "Oberflaeche.h"
 #include "core/runtime/TextDatei.h"
+#include "core/state/AppState.h"
+#include "core/state/Oberflaeche.h"
 #include "persist/Dateimeldungen.h"
 #include "persist/Design.h"
 #include "persist/Kalenderdaten.h"

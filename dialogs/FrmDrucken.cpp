@@ -1,12 +1,12 @@
-#include "FrmDrucken.h"
+#include "dialogs/FrmDrucken.h"
 
-#include "core/AppState.h"
-#include "core/Editionen.h"
-#include "core/Oberflaeche.h"
+#include "core/Programmdienste.h"
 #include "core/Seitennavigation.h"
 #include "core/runtime/Basic.h"
+#include "core/state/AppState.h"
+#include "core/state/Editionen.h"
+#include "core/state/Oberflaeche.h"
 #include "output/Druckerliste.h"
-#include "output/Programmdienste.h"
 
 #include <QApplication>
 #include <QButtonGroup>

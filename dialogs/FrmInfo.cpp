@@ -1,6 +1,6 @@
-#include "FrmInfo.h"
+#include "dialogs/FrmInfo.h"
 
-#include "core/AppState.h"
+#include "core/state/AppState.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>

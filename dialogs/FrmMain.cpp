@@ -1,17 +1,17 @@
 // frmMain: construction, the load handler and what the core asks of the window.
-#include "FrmMain.h"
-#include "FrmMsg.h"
-#include "Monatskalender.h"
-#include "Seitenansicht.h"
+#include "dialogs/FrmMain.h"
+#include "dialogs/FrmMsg.h"
+#include "dialogs/Monatskalender.h"
+#include "dialogs/Seitenansicht.h"
 
-#include "calendar/Tagesdaten.h"
-#include "core/AppState.h"
+#include "calendar/data/Tagesdaten.h"
 #include "core/Datensatzbefehle.h"
 #include "core/Dokumentbefehle.h"
-#include "core/Editionen.h"
 #include "core/Seitennavigation.h"
 #include "core/Start.h"
-#include "core/Zoom.h"
+#include "core/state/AppState.h"
+#include "core/state/Editionen.h"
+#include "core/state/Zoom.h"
 #include "render/Bildwerk.h"
 
 #include <QAction>

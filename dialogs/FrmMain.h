@@ -4,9 +4,9 @@
 // and binds every control to its command; entries whose work isn't part of this build stay
 // visible and disabled.
 
-#include "calendar/Kalendertypen.h"
+#include "calendar/data/Kalendertypen.h"
 #include "core/Dokumentdienste.h"
-#include "core/Oberflaeche.h"
+#include "core/state/Oberflaeche.h"
 
 #include <QColor>
 #include <QMainWindow>

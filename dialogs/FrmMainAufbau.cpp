@@ -1,9 +1,9 @@
 // Building frmMain: the menu tree in its order, the toolbars, the side panels and the page view.
-#include "FrmMain.h"
-#include "Monatskalender.h"
-#include "Seitenansicht.h"
+#include "dialogs/FrmMain.h"
+#include "dialogs/Monatskalender.h"
+#include "dialogs/Seitenansicht.h"
 
-#include "core/AppState.h"
+#include "core/state/AppState.h"
 
 #include <QAction>
 #include <QComboBox>

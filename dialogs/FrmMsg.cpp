@@ -1,4 +1,4 @@
-#include "FrmMsg.h"
+#include "dialogs/FrmMsg.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>

@@ -1,10 +1,10 @@
 // Starting the window: German texts in Qt's own dialogs, the functions of the other areas bound
 // to the commands, then the load handler and the event loop.
-#include "Hauptfenster.h"
-#include "FrmMain.h"
+#include "dialogs/Hauptfenster.h"
+#include "dialogs/FrmMain.h"
 
-#include "core/AppState.h"
-#include "output/Programmdienste.h"
+#include "core/Programmdienste.h"
+#include "core/state/AppState.h"
 
 #include <QApplication>
 #include <QIcon>

@@ -1,6 +1,6 @@
-#include "Monatskalender.h"
+#include "dialogs/Monatskalender.h"
 
-#include "core/AppState.h"
+#include "core/state/AppState.h"
 
 #include <QApplication>
 #include <QTextCharFormat>

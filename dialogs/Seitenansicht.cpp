@@ -1,6 +1,6 @@
-#include "Seitenansicht.h"
+#include "dialogs/Seitenansicht.h"
 
-#include "core/Zoom.h"
+#include "core/state/Zoom.h"
 
 #include <QFrame>
 #include <QGridLayout>

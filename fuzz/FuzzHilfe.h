@@ -2,8 +2,8 @@
 // Shared set-up of the reader fuzzers: a GUI application on the offscreen platform (the printer
 // list and fonts need one) and a quiet user interface.
 
-#include "core/AppState.h"
-#include "core/Oberflaeche.h"
+#include "core/state/AppState.h"
+#include "core/state/Oberflaeche.h"
 
 #include <QGuiApplication>
 #include <cstdlib>

@@ -1,7 +1,7 @@
 // The address readers on arbitrary bytes: daten.dat, layouts, and the .txt and .eti imports.
 // Each must end in a result or FormatFehler, never in a crash or an allocation out of proportion.
-#include "core/AppState.h"
 #include "core/runtime/TextDatei.h"
+#include "core/state/AppState.h"
 #include "persist/Datensaetze.h"
 #include "persist/Import.h"
 #include "persist/Layout.h"

@@ -2,7 +2,7 @@
 // refused with the document left intact; a load must write back without fault.
 #include "persist/Design.h"
 #include "FuzzHilfe.h"
-#include "core/AppState.h"
+#include "core/state/AppState.h"
 
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
     zp::fuzz::StarteAnwendung(argc, argv);

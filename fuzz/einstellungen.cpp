@@ -1,7 +1,7 @@
 // zp.ini: any bytes are read or refused whole; what was read is written back and read again alike.
 #include "persist/Einstellungen.h"
 #include "FuzzHilfe.h"
-#include "core/AppState.h"
+#include "core/state/AppState.h"
 
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
     zp::fuzz::StarteAnwendung(argc, argv);

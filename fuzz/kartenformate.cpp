@@ -1,6 +1,6 @@
 // etikett.ini and kalender.ini: any bytes are read or refused without touching the old values.
 #include "FuzzHilfe.h"
-#include "core/AppState.h"
+#include "core/state/AppState.h"
 #include "persist/Katalogdateien.h"
 
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {

@@ -3,7 +3,7 @@
 // time, in every edition.
 #include "FuzzHilfe.h"
 #include "compose/Seitenbild.h"
-#include "core/AppState.h"
+#include "core/state/AppState.h"
 #include "persist/Design.h"
 
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {

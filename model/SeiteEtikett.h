@@ -1,7 +1,7 @@
 #pragma once
 // The page and the label sheet of a document. Lengths in tenths of a millimetre.
 
-#include "Klassen.h"
+#include "model/Klassen.h"
 
 namespace zp {
 

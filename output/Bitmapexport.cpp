@@ -1,8 +1,8 @@
-#include "Bitmapexport.h"
+#include "output/Bitmapexport.h"
 
-#include "compose/ImageCanvas.h"
 #include "compose/ZeichneSeite.h"
-#include "core/AppState.h"
+#include "compose/canvas/ImageCanvas.h"
+#include "core/state/AppState.h"
 #include "render/Bildwerk.h"
 
 #include <cmath>

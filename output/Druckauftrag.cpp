@@ -1,9 +1,9 @@
 // The print dialog's "Drucken" command as a headless request.
 #include "output/Druckauftrag.h"
 
-#include "core/AppState.h"
-#include "core/Oberflaeche.h"
 #include "core/runtime/Basic.h"
+#include "core/state/AppState.h"
+#include "core/state/Oberflaeche.h"
 #include "output/Druckausgabe.h"
 
 #include <algorithm>

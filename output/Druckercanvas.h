@@ -3,7 +3,7 @@
 // twips per pixel are the printer's and a point stays a point. It prints to a queue of the print
 // system or, as "PDF-Datei", into a PDF file that replaces the target only once it is complete.
 
-#include "compose/PainterCanvas.h"
+#include "compose/canvas/PainterCanvas.h"
 #include "model/SeiteEtikett.h"
 #include "output/Druckausgabe.h"
 

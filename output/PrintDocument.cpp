@@ -1,10 +1,10 @@
 // The print run over a sheet of labels, a calendar's pages or a single letter page.
 #include "output/PrintDocument.h"
 
-#include "compose/canvas.h"
-#include "core/AppState.h"
-#include "core/Oberflaeche.h"
+#include "compose/canvas/canvas.h"
 #include "core/runtime/Basic.h"
+#include "core/state/AppState.h"
+#include "core/state/Oberflaeche.h"
 #include "output/Druckausgabe.h"
 
 #include <algorithm>

@@ -2,8 +2,9 @@
 // The counting itself is the calendar walk's; the print run steps the state's counters.
 #include "output/PrintDocument.h"
 
-#include "calendar/KalenderLauf.h"
-#include "core/AppState.h"
+#include "calendar/data/Kalendertypen.h"
+#include "calendar/walks/KalenderLauf.h"
+#include "core/state/AppState.h"
 
 namespace zp {
 

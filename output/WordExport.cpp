@@ -1,7 +1,7 @@
 #include "output/WordExport.h"
 
-#include "core/AppState.h"
-#include "core/Oberflaeche.h"
+#include "core/state/AppState.h"
+#include "core/state/Oberflaeche.h"
 
 #include <QBuffer>
 #include <QDesktopServices>

@@ -1,6 +1,6 @@
-#include "Dateimeldungen.h"
+#include "persist/Dateimeldungen.h"
 
-#include "core/Oberflaeche.h"
+#include "core/state/Oberflaeche.h"
 
 namespace zp {
 

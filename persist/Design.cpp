@@ -1,10 +1,10 @@
-#include "Design.h"
+#include "persist/Design.h"
 
-#include "core/AppState.h"
-#include "core/Oberflaeche.h"
 #include "core/runtime/Basic.h"
 #include "core/runtime/TextDatei.h"
-#include "model/Objekte.h"
+#include "core/state/AppState.h"
+#include "core/state/Oberflaeche.h"
+#include "core/state/Objekte.h"
 #include "persist/Rahmensatz.h"
 
 #include <cmath>

@@ -3,7 +3,7 @@
 // frames, texts, pictures, shapes, letter bodies, the sheet and, in the card editions, the
 // address records. One value per line; a value is known by its line's place alone.
 
-#include "Dateimeldungen.h"
+#include "persist/Dateimeldungen.h"
 
 #include <QByteArray>
 #include <QString>

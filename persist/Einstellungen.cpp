@@ -1,9 +1,9 @@
-#include "Einstellungen.h"
+#include "persist/Einstellungen.h"
 
-#include "Dateimeldungen.h"
-#include "core/AppState.h"
 #include "core/runtime/Basic.h"
 #include "core/runtime/TextDatei.h"
+#include "core/state/AppState.h"
+#include "persist/Dateimeldungen.h"
 
 #include <QFileInfo>
 #include <QPrinterInfo>

@@ -5,7 +5,7 @@
 #include <QByteArray>
 #include <QString>
 
-#include "Dateimeldungen.h"
+#include "persist/Dateimeldungen.h"
 
 namespace zp {
 

@@ -1,4 +1,4 @@
-#include "Import.h"
+#include "persist/Import.h"
 
 #include "core/runtime/TextDatei.h"
 #include "persist/Datensaetze.h"

@@ -1,4 +1,4 @@
-#include "KalImport.h"
+#include "persist/KalImport.h"
 
 #include "core/runtime/Basic.h"
 #include "core/runtime/TextDatei.h"

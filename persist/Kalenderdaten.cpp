@@ -1,7 +1,7 @@
-#include "Kalenderdaten.h"
+#include "persist/Kalenderdaten.h"
 
-#include "core/AppState.h"
 #include "core/runtime/TextDatei.h"
+#include "core/state/AppState.h"
 
 #include <QRegularExpression>
 

@@ -1,8 +1,8 @@
-#include "Katalogdateien.h"
+#include "persist/Katalogdateien.h"
 
-#include "core/AppState.h"
 #include "core/runtime/Basic.h"
 #include "core/runtime/TextDatei.h"
+#include "core/state/AppState.h"
 
 #include <QFileInfo>
 

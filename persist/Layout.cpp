@@ -1,9 +1,9 @@
-#include "Layout.h"
+#include "persist/Layout.h"
 
-#include "core/AppState.h"
-#include "core/Oberflaeche.h"
 #include "core/runtime/Basic.h"
 #include "core/runtime/TextDatei.h"
+#include "core/state/AppState.h"
+#include "core/state/Oberflaeche.h"
 #include "persist/Dateimeldungen.h"
 #include "persist/Rahmensatz.h"
 

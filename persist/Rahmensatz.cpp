@@ -1,4 +1,4 @@
-#include "Rahmensatz.h"
+#include "persist/Rahmensatz.h"
 
 #include "core/runtime/TextDatei.h"
 #include "model/Klassen.h"

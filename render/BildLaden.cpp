@@ -1,7 +1,7 @@
-#include "BildLaden.h"
+#include "render/BildLaden.h"
 
-#include "core/AppState.h"
-#include "core/Oberflaeche.h"
+#include "core/state/AppState.h"
+#include "core/state/Oberflaeche.h"
 #include "render/Bildwerk.h"
 
 #include <QFileInfo>

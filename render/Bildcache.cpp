@@ -1,4 +1,4 @@
-#include "Bildcache.h"
+#include "render/Bildcache.h"
 
 #include <QDateTime>
 #include <QFileInfo>

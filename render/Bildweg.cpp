@@ -1,9 +1,9 @@
 // The picture steps of the page composition: a picture or pattern behind a label, and picture
 // frames with the fit of record pictures.
-#include "Bildweg.h"
+#include "render/Bildweg.h"
 
-#include "compose/canvas.h"
-#include "core/AppState.h"
+#include "compose/canvas/canvas.h"
+#include "core/state/AppState.h"
 #include "render/BildLaden.h"
 #include "render/Bildwerk.h"
 

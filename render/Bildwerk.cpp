@@ -1,6 +1,6 @@
-#include "Bildwerk.h"
+#include "render/Bildwerk.h"
 
-#include "core/AppState.h"
+#include "core/state/AppState.h"
 
 namespace zp {
 

@@ -1,7 +1,7 @@
-#include "FormZeichnen.h"
+#include "render/FormZeichnen.h"
 
-#include "compose/GdiRunden.h"
-#include "compose/canvas.h"
+#include "compose/canvas/GdiRunden.h"
+#include "compose/canvas/canvas.h"
 #include "model/Klassen.h"
 
 namespace zp {

@@ -1,7 +1,7 @@
-#include "Hintergrundvorschau.h"
+#include "render/Hintergrundvorschau.h"
 
-#include "compose/canvas.h"
-#include "core/AppState.h"
+#include "compose/canvas/canvas.h"
+#include "core/state/AppState.h"
 #include "render/BildLaden.h"
 #include "render/Bildweg.h"
 #include "render/Bildwerk.h"

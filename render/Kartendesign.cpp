@@ -2,9 +2,9 @@
 // background of a cell.
 #include "render/Bildweg.h"
 
-#include "compose/canvas.h"
-#include "core/AppState.h"
+#include "compose/canvas/canvas.h"
 #include "core/runtime/Basic.h"
+#include "core/state/AppState.h"
 
 #include <vector>
 

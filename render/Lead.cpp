@@ -1,6 +1,6 @@
 // The imaging control over Magick++. The bitmap lives as a Magick image while corrections run and
 // as an ARGB32 QImage once it is painted; each form is made from the other on demand.
-#include "Lead.h"
+#include "render/Lead.h"
 
 #include "core/runtime/TextDatei.h"
 

@@ -11,7 +11,7 @@
 //
 // Failures (unreadable file, not a picture, too large) throw LeadFehler with a German text.
 
-#include "compose/canvas.h"
+#include "compose/canvas/canvas.h"
 
 #include <QImage>
 #include <QRectF>

@@ -1,7 +1,7 @@
-#include "Platzhalter.h"
+#include "render/Platzhalter.h"
 
-#include "core/AppState.h"
 #include "core/runtime/Basic.h"
+#include "core/state/AppState.h"
 
 namespace zp {
 

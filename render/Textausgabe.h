@@ -2,7 +2,7 @@
 // What the text renderer hands its effects: the start point and measure of one text, and the
 // output of the string by the kind of canvas.
 
-#include "compose/canvas.h"
+#include "compose/canvas/canvas.h"
 #include "model/Klassen.h"
 
 #include <QString>

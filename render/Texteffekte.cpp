@@ -1,7 +1,7 @@
 // Shadows and gradients of a text: the same string drawn again at other places in other colours,
 // or drawn again through a clip that shrinks band by band.
-#include "compose/GdiRunden.h"
-#include "core/AppState.h"
+#include "compose/canvas/GdiRunden.h"
+#include "core/state/AppState.h"
 #include "render/Farbanteile.h"
 #include "render/Textausgabe.h"
 #include "render/ZeichneSchrift.h"

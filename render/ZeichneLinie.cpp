@@ -1,8 +1,8 @@
-#include "ZeichneLinie.h"
+#include "render/ZeichneLinie.h"
 
-#include "compose/GdiRunden.h"
-#include "compose/canvas.h"
-#include "core/AppState.h"
+#include "compose/canvas/GdiRunden.h"
+#include "compose/canvas/canvas.h"
+#include "core/state/AppState.h"
 #include "render/Farbanteile.h"
 #include "render/FormZeichnen.h"
 

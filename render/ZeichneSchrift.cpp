@@ -1,7 +1,7 @@
-#include "ZeichneSchrift.h"
+#include "render/ZeichneSchrift.h"
 
-#include "compose/GdiRunden.h"
-#include "core/AppState.h"
+#include "compose/canvas/GdiRunden.h"
+#include "core/state/AppState.h"
 #include "render/Platzhalter.h"
 #include "render/Textausgabe.h"
 

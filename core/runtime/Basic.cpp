@@ -1,4 +1,4 @@
-#include "Basic.h"
+#include "core/runtime/Basic.h"
 
 #include <cmath>
 #include <limits>

@@ -1,4 +1,4 @@
-#include "Cp1252Codec.h"
+#include "core/runtime/Cp1252Codec.h"
 
 namespace zp {
 

@@ -1,7 +1,7 @@
-#include "TextDatei.h"
+#include "core/runtime/TextDatei.h"
 
-#include "Basic.h"
-#include "Cp1252Codec.h"
+#include "core/runtime/Basic.h"
+#include "core/runtime/Cp1252Codec.h"
 
 #include <QFile>
 #include <QSaveFile>

@@ -1,8 +1,8 @@
 #include "common/ProtokollOberflaeche.h"
 
 #include "common/TestHilfe.h"
-#include "core/AppState.h"
 #include "core/runtime/TextDatei.h"
+#include "core/state/AppState.h"
 #include "persist/Datensaetze.h"
 
 #include <QTemporaryDir>

@@ -1,7 +1,7 @@
 #include "common/ProtokollOberflaeche.h"
 
-#include "core/AppState.h"
 #include "core/Datensatzbefehle.h"
+#include "core/state/AppState.h"
 
 #include <gtest/gtest.h>
 

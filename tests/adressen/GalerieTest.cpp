@@ -1,11 +1,11 @@
 // The business-card gallery: every entry loads its shipped card and keeps the user's addresses.
 #include "common/ProtokollOberflaeche.h"
 #include "common/TestHilfe.h"
-#include "core/AppState.h"
 #include "core/Dokumentbefehle.h"
+#include "core/Programmdienste.h"
 #include "core/Programmordner.h"
 #include "core/Start.h"
-#include "output/Programmdienste.h"
+#include "core/state/AppState.h"
 #include "persist/Design.h"
 
 #include <QSet>

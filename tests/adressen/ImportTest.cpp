@@ -1,9 +1,9 @@
 #include "common/ProtokollOberflaeche.h"
 
 #include "common/TestHilfe.h"
-#include "core/AppState.h"
 #include "core/Importbefehl.h"
 #include "core/runtime/TextDatei.h"
+#include "core/state/AppState.h"
 #include "persist/Import.h"
 
 #include <QTemporaryDir>

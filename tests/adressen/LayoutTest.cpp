@@ -1,8 +1,8 @@
 #include "common/ProtokollOberflaeche.h"
 
-#include "core/AppState.h"
 #include "core/Datensatzbefehle.h"
 #include "core/runtime/TextDatei.h"
+#include "core/state/AppState.h"
 #include "persist/Layout.h"
 
 #include <QTemporaryDir>

@@ -1,7 +1,7 @@
 // The layouts and addresses that the card and label editions ship.
 #include "common/TestHilfe.h"
-#include "core/AppState.h"
 #include "core/runtime/TextDatei.h"
+#include "core/state/AppState.h"
 #include "persist/Datensaetze.h"
 #include "persist/Layout.h"
 

@@ -1,7 +1,7 @@
 #include "app/Kommandozeile.h"
 #include "common/TestHilfe.h"
-#include "core/AppState.h"
 #include "core/runtime/TextDatei.h"
+#include "core/state/AppState.h"
 
 #include <QDir>
 #include <QFile>

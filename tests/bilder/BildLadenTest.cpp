@@ -2,8 +2,8 @@
 #include "render/BildLaden.h"
 #include "Bildhilfe.h"
 #include "common/ProtokollOberflaeche.h"
-#include "core/AppState.h"
-#include "core/Oberflaeche.h"
+#include "core/state/AppState.h"
+#include "core/state/Oberflaeche.h"
 #include "render/Bildwerk.h"
 
 #include <QFile>

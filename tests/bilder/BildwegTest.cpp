@@ -3,7 +3,7 @@
 #include "render/Bildweg.h"
 #include "Bildhilfe.h"
 #include "Protokollcanvas.h"
-#include "core/AppState.h"
+#include "core/state/AppState.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>

@@ -1,9 +1,9 @@
 // A business card through the whole page composition: pattern background, design band and a
 // record photograph fitted into its frame, on the page picture and in the bitmap export.
 #include "Bildhilfe.h"
-#include "compose/ImageCanvas.h"
 #include "compose/ZeichneSeite.h"
-#include "core/AppState.h"
+#include "compose/canvas/ImageCanvas.h"
+#include "core/state/AppState.h"
 #include "output/Bitmapexport.h"
 
 #include <QTemporaryDir>

@@ -1,6 +1,6 @@
 // The thirteen design figures with their points on the recording canvas.
 #include "Protokollcanvas.h"
-#include "core/AppState.h"
+#include "core/state/AppState.h"
 #include "render/Bildweg.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #pragma once
 // A canvas for the picture tests that records shapes and pictures with their device coordinates.
 
-#include "compose/canvas.h"
+#include "compose/canvas/canvas.h"
 
 #include <QImage>
 #include <QRectF>

@@ -2,7 +2,7 @@
 #include "Bildhilfe.h"
 #include "Protokollcanvas.h"
 #include "compose/ZeichneSeite.h"
-#include "core/AppState.h"
+#include "core/state/AppState.h"
 #include "output/Bitmapexport.h"
 #include "render/Hintergrundvorschau.h"
 

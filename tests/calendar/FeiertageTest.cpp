@@ -1,5 +1,5 @@
-#include "calendar/Feiertage.h"
-#include "core/AppState.h"
+#include "calendar/data/Feiertage.h"
+#include "core/state/AppState.h"
 
 #include <QDate>
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 #include "app/Kommandozeile.h"
-#include "core/AppState.h"
+#include "core/state/AppState.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "KalenderTestHilfe.h"
 
-#include "calendar/Standarddesign.h"
-#include "calendar/Tagesdaten.h"
+#include "calendar/data/Standarddesign.h"
+#include "calendar/data/Tagesdaten.h"
 #include "core/runtime/Basic.h"
 
 #include <algorithm>

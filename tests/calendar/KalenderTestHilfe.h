@@ -2,8 +2,8 @@
 // A calendar design for the walks: text frames 1..8 and shape frames 32..39 with their roles,
 // and a drawer that records every cell the walks hand over.
 
-#include "calendar/KalenderLauf.h"
-#include "core/AppState.h"
+#include "calendar/walks/KalenderLauf.h"
+#include "core/state/AppState.h"
 
 #include <QString>
 #include <vector>

@@ -1,10 +1,10 @@
 // The walks through the real renderers on the recording canvas: one text output per day cell,
 // the day's colour reaching the device, the angle of the second half of the folding sheet.
-#include "calendar/KalenderZeichnen.h"
-#include "calendar/Standarddesign.h"
-#include "compose/RecordingCanvas.h"
-#include "core/AppState.h"
+#include "calendar/walks/KalenderZeichnen.h"
+#include "calendar/data/Standarddesign.h"
+#include "compose/canvas/RecordingCanvas.h"
 #include "core/runtime/Basic.h"
+#include "core/state/AppState.h"
 
 #include <gtest/gtest.h>
 

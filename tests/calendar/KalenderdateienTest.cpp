@@ -1,8 +1,8 @@
-#include "calendar/Kalenderdateien.h"
+#include "calendar/data/Kalenderdateien.h"
 #include "common/ProtokollOberflaeche.h"
-#include "core/AppState.h"
-#include "core/Oberflaeche.h"
 #include "core/runtime/TextDatei.h"
+#include "core/state/AppState.h"
+#include "core/state/Oberflaeche.h"
 #include "persist/KalImport.h"
 #include "persist/Kalenderdaten.h"
 

@@ -1,6 +1,6 @@
-#include "calendar/Kalenderoptionen.h"
-#include "calendar/Feiertage.h"
-#include "core/AppState.h"
+#include "calendar/data/Kalenderoptionen.h"
+#include "calendar/data/Feiertage.h"
+#include "core/state/AppState.h"
 
 #include <gtest/gtest.h>
 

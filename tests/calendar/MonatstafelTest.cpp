@@ -1,7 +1,7 @@
 // The walks' month table against the date arithmetic it stands in for: every weekday and month
 // length a walk can ask for, including the days that roll over into the next or previous month.
-#include "calendar/Monatstafel.h"
-#include "calendar/Tagesdaten.h"
+#include "calendar/data/Monatstafel.h"
+#include "calendar/data/Tagesdaten.h"
 #include "core/runtime/Basic.h"
 
 #include <gtest/gtest.h>

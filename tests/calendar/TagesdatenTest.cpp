@@ -1,7 +1,7 @@
-#include "calendar/Tagesdaten.h"
+#include "calendar/data/Tagesdaten.h"
 #include "common/ProtokollOberflaeche.h"
-#include "core/AppState.h"
-#include "core/Oberflaeche.h"
+#include "core/state/AppState.h"
+#include "core/state/Oberflaeche.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,7 +1,7 @@
 #pragma once
 // A window stand-in that keeps what the core tells it; questions get the preset standardAntwort.
 
-#include "core/Oberflaeche.h"
+#include "core/state/Oberflaeche.h"
 
 #include <QStringList>
 

@@ -1,8 +1,8 @@
 // The canvases keep the device meanings that the renderers rely on: boxes cover their pixels up
 // to, not including, the right and bottom edge; regions stay in device pixels; text cells hang
 // from their top-left point and turn counter-clockwise about it.
-#include "compose/ImageCanvas.h"
-#include "compose/RecordingCanvas.h"
+#include "compose/canvas/ImageCanvas.h"
+#include "compose/canvas/RecordingCanvas.h"
 
 #include <QFontMetrics>
 #include <gtest/gtest.h>

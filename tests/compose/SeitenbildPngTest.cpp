@@ -1,7 +1,7 @@
 // `zp --png`: the page picture of the edition, at the zoom asked for, written or refused.
 #include "app/Kommandozeile.h"
 #include "common/TestHilfe.h"
-#include "core/AppState.h"
+#include "core/state/AppState.h"
 
 #include <QImage>
 #include <QTemporaryDir>

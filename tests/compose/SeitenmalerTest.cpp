@@ -1,11 +1,11 @@
 // The window's page painter keeps its canvas between redraws: every picture must still be the one
 // a new canvas gives, in the size of the present zoom, and a picture handed out stays as it was.
 #include "compose/Seitenmaler.h"
-#include "calendar/Feiertage.h"
-#include "calendar/Standarddesign.h"
-#include "compose/ImageCanvas.h"
+#include "calendar/data/Feiertage.h"
+#include "calendar/data/Standarddesign.h"
 #include "compose/Seitenbild.h"
-#include "core/AppState.h"
+#include "compose/canvas/ImageCanvas.h"
+#include "core/state/AppState.h"
 
 #include <gtest/gtest.h>
 

@@ -2,9 +2,9 @@
 // give the picture that drawing every step gives: exactly for shapes, and for letters up to the
 // smoothing of their edges, which a hundred strokes over one another darken.
 #include "bench/Musterseiten.h"
-#include "compose/ImageCanvas.h"
 #include "compose/Seitenbild.h"
 #include "compose/ZeichneSeite.h"
+#include "compose/canvas/ImageCanvas.h"
 
 #include <gtest/gtest.h>
 

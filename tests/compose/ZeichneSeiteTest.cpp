@@ -1,9 +1,9 @@
 // The order and the conditions of the page composition, on recording canvases.
 #include "compose/ZeichneSeite.h"
-#include "compose/RecordingCanvas.h"
-#include "core/AppState.h"
-#include "core/Oberflaeche.h"
-#include "model/Objekte.h"
+#include "compose/canvas/RecordingCanvas.h"
+#include "core/state/AppState.h"
+#include "core/state/Oberflaeche.h"
+#include "core/state/Objekte.h"
 
 #include <gtest/gtest.h>
 

@@ -2,12 +2,12 @@
 // as they were, so that the next Save can't go over the rejected file.
 #include "common/ProtokollOberflaeche.h"
 #include "common/TestHilfe.h"
-#include "core/AppState.h"
 #include "core/Dokumentbefehle.h"
 #include "core/Importbefehl.h"
+#include "core/Programmdienste.h"
 #include "core/Programmordner.h"
 #include "core/Start.h"
-#include "output/Programmdienste.h"
+#include "core/state/AppState.h"
 #include "persist/Design.h"
 #include "persist/Kalenderdaten.h"
 

@@ -2,11 +2,11 @@
 #include "core/Sitzung.h"
 #include "common/ProtokollOberflaeche.h"
 #include "common/TestHilfe.h"
-#include "core/AppState.h"
 #include "core/Beenden.h"
 #include "core/Programmordner.h"
 #include "core/Start.h"
 #include "core/runtime/TextDatei.h"
+#include "core/state/AppState.h"
 
 #include <QFile>
 #include <gtest/gtest.h>

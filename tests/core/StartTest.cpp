@@ -1,11 +1,11 @@
 #include "core/Start.h"
 #include "common/ProtokollOberflaeche.h"
 #include "common/TestHilfe.h"
-#include "core/AppState.h"
 #include "core/Beenden.h"
-#include "core/Oberflaeche.h"
 #include "core/Programmordner.h"
 #include "core/runtime/TextDatei.h"
+#include "core/state/AppState.h"
+#include "core/state/Oberflaeche.h"
 
 #include <QDir>
 #include <QFile>

@@ -2,9 +2,9 @@
 // A printer for tests: the recording canvas that also notes the job's pages and, through the test
 // composition, every piece with the window origin and the state it was composed with.
 
-#include "compose/RecordingCanvas.h"
-#include "core/AppState.h"
-#include "core/Oberflaeche.h"
+#include "compose/canvas/RecordingCanvas.h"
+#include "core/state/AppState.h"
+#include "core/state/Oberflaeche.h"
 #include "output/Druckausgabe.h"
 #include "output/PrintDocument.h"
 

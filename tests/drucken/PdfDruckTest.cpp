@@ -3,13 +3,13 @@
 #include "Aufzeichnungsdrucker.h"
 
 #include "common/ProtokollOberflaeche.h"
+#include "core/Programmdienste.h"
 #include "core/Programmordner.h"
 #include "core/Start.h"
 #include "core/runtime/TextDatei.h"
 #include "output/Druckauftrag.h"
 #include "output/Druckercanvas.h"
 #include "output/Druckerliste.h"
-#include "output/Programmdienste.h"
 
 #include <QFile>
 #include <QProcess>

@@ -1,7 +1,7 @@
 // The print run with the program's composition: crop bars and cut frame relative to each label.
 #include "Aufzeichnungsdrucker.h"
 
-#include "output/Programmdruck.h"
+#include "core/Programmdruck.h"
 
 #include <gtest/gtest.h>
 

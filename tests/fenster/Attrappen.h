@@ -3,12 +3,12 @@
 // interface with preset answers, and a state set up like Main leaves it for an edition.
 
 #include "common/ProtokollOberflaeche.h"
-#include "core/AppState.h"
 #include "core/Dokumentdienste.h"
-#include "core/Oberflaeche.h"
+#include "core/state/AppState.h"
+#include "core/state/Oberflaeche.h"
+#include "core/state/Objekte.h"
 #include "dialogs/FrmMain.h"
 #include "dialogs/Hauptfenster.h"
-#include "model/Objekte.h"
 
 #include <QStringList>
 #include <QUrl>

@@ -2,7 +2,7 @@
 // and commands run through the window's own controls.
 #include "Attrappen.h"
 
-#include "core/Editionen.h"
+#include "core/state/Editionen.h"
 #include "dialogs/FrmDrucken.h"
 #include "dialogs/Monatskalender.h"
 #include "dialogs/Seitenansicht.h"

@@ -1,8 +1,8 @@
 // Paging through a calendar and the view toggles, without a window.
 #include "Attrappen.h"
 
-#include "core/Ansicht.h"
 #include "core/Seitennavigation.h"
+#include "core/state/Ansicht.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // Zoom steps, the fits of page width and whole page, and the ruler ticks.
-#include "core/Zoom.h"
-#include "core/AppState.h"
+#include "core/state/Zoom.h"
+#include "core/state/AppState.h"
 
 #include <gtest/gtest.h>
 

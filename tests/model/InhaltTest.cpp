@@ -1,8 +1,8 @@
-#include "model/Inhalt.h"
+#include "core/state/Inhalt.h"
 #include "common/ProtokollOberflaeche.h"
-#include "core/AppState.h"
-#include "core/Oberflaeche.h"
 #include "core/Start.h"
+#include "core/state/AppState.h"
+#include "core/state/Oberflaeche.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>

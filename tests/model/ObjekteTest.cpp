@@ -1,5 +1,5 @@
-#include "model/Objekte.h"
-#include "core/AppState.h"
+#include "core/state/Objekte.h"
+#include "core/state/AppState.h"
 
 #include <gtest/gtest.h>
 

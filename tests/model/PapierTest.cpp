@@ -1,5 +1,5 @@
-#include "model/Papier.h"
-#include "core/AppState.h"
+#include "core/state/Papier.h"
+#include "core/state/AppState.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 #include "persist/Design.h"
 #include "common/ProtokollOberflaeche.h"
 #include "common/TestHilfe.h"
-#include "core/AppState.h"
-#include "core/Oberflaeche.h"
 #include "core/Start.h"
 #include "core/runtime/TextDatei.h"
+#include "core/state/AppState.h"
+#include "core/state/Oberflaeche.h"
 #include "persist/Einstellungen.h"
 
 #include <QDirIterator>

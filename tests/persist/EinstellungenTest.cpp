@@ -1,7 +1,7 @@
 #include "persist/Einstellungen.h"
 #include "common/TestHilfe.h"
-#include "core/AppState.h"
 #include "core/runtime/TextDatei.h"
+#include "core/state/AppState.h"
 
 #include <QPrinterInfo>
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 #include "persist/Katalogdateien.h"
 #include "common/TestHilfe.h"
-#include "core/AppState.h"
 #include "core/runtime/TextDatei.h"
-#include "model/Papier.h"
+#include "core/state/AppState.h"
+#include "core/state/Papier.h"
 
 #include <gtest/gtest.h>
 

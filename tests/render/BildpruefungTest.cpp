@@ -1,6 +1,6 @@
 // What the renderers leave on a real picture: colours at the places the geometry says.
-#include "compose/ImageCanvas.h"
-#include "core/AppState.h"
+#include "compose/canvas/ImageCanvas.h"
+#include "core/state/AppState.h"
 #include "render/ZeichneLinie.h"
 #include "render/ZeichneSchrift.h"
 

@@ -3,7 +3,7 @@
 // y(200) = 113.4, y(300) = 170.1, y(250) = 141.75; half thickness 0.567 px. At zoom 100:
 // x(250) = y(250) = 94.5, which rounds half to even to 94.
 #include "render/FormZeichnen.h"
-#include "compose/RecordingCanvas.h"
+#include "compose/canvas/RecordingCanvas.h"
 #include "model/Klassen.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 #include "render/Platzhalter.h"
-#include "core/AppState.h"
+#include "core/state/AppState.h"
 
 #include <gtest/gtest.h>
 

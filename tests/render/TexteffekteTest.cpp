@@ -1,7 +1,7 @@
 // Shadows and gradients of a text on the recording canvas. The text "ABCD" at 10 pt, zoom 100,
 // measures 420 x 195 twips and starts at X0 100, Y0 200 (567, 1134 twips; 37.8, 75.6 px).
-#include "compose/RecordingCanvas.h"
-#include "core/AppState.h"
+#include "compose/canvas/RecordingCanvas.h"
+#include "core/state/AppState.h"
 #include "render/ZeichneSchrift.h"
 
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 // The shape renderer on the recording canvas: frame X 100, Y 200, B 300, H 100, line strength 2,
 // zoom 150 unless said otherwise (S = 8.505 twips per tenth of a millimetre, 15 twips per pixel).
 #include "render/ZeichneLinie.h"
-#include "compose/RecordingCanvas.h"
-#include "core/AppState.h"
+#include "compose/canvas/RecordingCanvas.h"
+#include "core/state/AppState.h"
 
 #include <gtest/gtest.h>
 

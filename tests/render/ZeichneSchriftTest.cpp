@@ -4,8 +4,8 @@
 // B 400, H 300. The expected device points come from the alignment tables worked through by hand
 // for this measure, with the rotation offsets and the half-even rounding of every stored value.
 #include "render/ZeichneSchrift.h"
-#include "compose/RecordingCanvas.h"
-#include "core/AppState.h"
+#include "compose/canvas/RecordingCanvas.h"
+#include "core/state/AppState.h"
 
 #include <gtest/gtest.h>
 

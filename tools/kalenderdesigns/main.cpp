@@ -8,16 +8,16 @@
 // and variant (and the last week page) with the sample data, holidays calculated.
 #include "Monatsbilder.h"
 
-#include "calendar/Feiertage.h"
-#include "calendar/Kalendertypen.h"
-#include "calendar/Standarddesign.h"
-#include "calendar/Tagesdaten.h"
+#include "calendar/data/Feiertage.h"
+#include "calendar/data/Kalendertypen.h"
+#include "calendar/data/Standarddesign.h"
+#include "calendar/data/Tagesdaten.h"
 #include "compose/Seitenbild.h"
-#include "core/AppState.h"
-#include "core/Oberflaeche.h"
 #include "core/Start.h"
 #include "core/runtime/Basic.h"
 #include "core/runtime/TextDatei.h"
+#include "core/state/AppState.h"
+#include "core/state/Oberflaeche.h"
 #include "persist/Design.h"
 #include "persist/Kalenderdaten.h"
 

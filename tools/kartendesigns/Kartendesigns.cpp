@@ -1,9 +1,9 @@
 #include "Kartendesigns.h"
 
-#include "core/AppState.h"
 #include "core/runtime/Basic.h"
 #include "core/runtime/TextDatei.h"
-#include "model/Objekte.h"
+#include "core/state/AppState.h"
+#include "core/state/Objekte.h"
 #include "persist/Design.h"
 
 #include <cmath>

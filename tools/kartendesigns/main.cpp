@@ -1,8 +1,8 @@
 // Writes the shipped data of the card and label editions into the folder given (the repository's
 // daten/programm): the gallery daten/design1.zpv ... design19.zpv, Layout1.lay ... Layout5.lay and
 // daten.dat.
-#include "core/AppState.h"
 #include "core/runtime/TextDatei.h"
+#include "core/state/AppState.h"
 #include "persist/Datensaetze.h"
 #include "persist/Design.h"
 #include "persist/Layout.h"
