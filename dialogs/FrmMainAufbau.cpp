@@ -90,6 +90,9 @@ void FrmMain::MenuesAnlegen() {
     datei->addSeparator();
     NeueAktion(datei, "mnuFilePageSetup", QStringLiteral("Seite &einrichten..."));
     tasten(NeueAktion(datei, "mnuFilePrint", QStringLiteral("Dru&cken...")), QKeySequence::Print);
+    datei->addSeparator();
+    NeueAktion(datei, "mnuSitzung", QStringLiteral("Letzte Sitzung beim Start wiederherstellen"))
+        ->setCheckable(true);
     // The recent-file entries exist and stay empty: the list passes through the settings untouched.
     for (int i = 0; i < 3; ++i) {
         QAction* a = NeueAktion(datei, "mnuFileMRU", QString());

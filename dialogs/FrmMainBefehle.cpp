@@ -11,6 +11,7 @@
 #include "core/Dokumentbefehle.h"
 #include "core/Importbefehl.h"
 #include "core/Seitennavigation.h"
+#include "core/Sitzung.h"
 #include "core/runtime/Basic.h"
 #include "core/state/Ansicht.h"
 #include "core/state/AppState.h"
@@ -90,6 +91,9 @@ void FrmMain::Verbinden() {
         QApplication::setOverrideCursor(Qt::WaitCursor);
         DienstAusfuehren(m_d.Word, s, *this);
         QApplication::restoreOverrideCursor();
+    });
+    connect(Aktion(QStringLiteral("mnuSitzung")), &QAction::toggled, this, [this](bool an) {
+        if (s.LadeSperre == 0) SitzungWiederherstellenSetzen(s, *this, an);
     });
     bei("mnuFileClose", [this] { close(); });
     bei("mnuFileExit", [this] { close(); });
@@ -418,6 +422,7 @@ void FrmMain::EditionAnwenden() {
 }
 
 void FrmMain::Haekchen() {
+    Aktion(QStringLiteral("mnuSitzung"))->setChecked(SitzungWiederherstellenAn(s));
     Aktion(QStringLiteral("mnuRahmensichtbar"))->setChecked(s.RahmenAnzeigen == -1);
     Aktion(QStringLiteral("mnuRahmenMagnet"))->setChecked(s.GitterAn == -1);
     Aktion(QStringLiteral("mmummgenau"))->setChecked(s.MMGenau != 0);

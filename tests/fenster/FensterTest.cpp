@@ -2,6 +2,7 @@
 // and commands run through the window's own controls.
 #include "Attrappen.h"
 
+#include "core/Sitzung.h"
 #include "core/state/Editionen.h"
 #include "dialogs/FrmDrucken.h"
 #include "dialogs/Monatskalender.h"
@@ -383,6 +384,18 @@ TEST(Befehle, FokusWaehltDenRahmenDesTextfelds) {
     f.s.Auswahlmodus = 1;
     QApplication::sendEvent(f.kind<QLineEdit>("Text1_7"), &rein);
     EXPECT_EQ(f.s.SchriftNummer, 5);
+}
+
+TEST(Befehle, DieLetzteSitzungLaesstSichAusschalten) {
+    Fenster f("ZP Etikett");
+    QAction* sitzung = f.aktion("mnuSitzung");
+    ASSERT_TRUE(sitzung->isCheckable());
+    EXPECT_TRUE(sitzung->isChecked()); // on in a fresh folder
+    sitzung->trigger();
+    EXPECT_FALSE(SitzungWiederherstellenAn(f.s));
+    EXPECT_TRUE(QFile::exists(f.s.Programmpfad + "sitzung.ini"));
+    sitzung->trigger();
+    EXPECT_TRUE(SitzungWiederherstellenAn(f.s));
 }
 
 TEST(Befehle, OhneBrowserSagenHilfeWebUndMailWohin) {
