@@ -23,12 +23,7 @@ QString ImportFilter(const AppState& s) {
 bool Importieren(AppState& s, Oberflaeche& ui, const QString& datei) {
     const QString endung = datei.right(3);
     const bool txt = endung == u"txt";
-    if (!txt && endung != u"eti") {
-        ui.Meldung(QStringLiteral("Diese Dateiart kann nicht importiert werden. Gelesen werden Etiketten "
-                                  "der Version 3 (.eti) und Textdateien (.txt)."),
-                   QStringLiteral("Importieren"), datei);
-        return false;
-    }
+    if (!txt && endung != u"eti") return false;
     if (!QFileInfo(datei).isFile()) return false;
     const auto bytes = LeseDatei(datei);
     if (!bytes) {

@@ -71,6 +71,7 @@ bool KalenderZurueck(AppState& s, Oberflaeche& ui, const QString& gemerkt) {
         return false;
     }
     if (!gemerkt.isEmpty()) s.Datendatei = gemerkt;
+    ui.StatusDatei(s.Datendatei);
     ui.Statusmeldung(
         QStringLiteral("Die Termine, Feiertage und Bilder der letzten Sitzung sind wieder da (%1).")
             .arg(QFileInfo(s.Datendatei).fileName()));

@@ -239,9 +239,9 @@ bool LadeStartzustand(AppState& s, Oberflaeche& ui) {
         s.Panel.PictureTextfarbe = s.Panel.PictureHintergrundfarbe = 0xFFFFFF;
         s.Panel.PictureFeiertagSchrift = s.Panel.PictureFeiertagBack = 0xFFFFFF;
         s.Datendatei = s.Programmpfad + QStringLiteral("neu.zpd");
+        ui.StatusDatei(s.Datendatei);
         // The day data of the last session, unless switched off; the design comes with the type.
         SitzungWiederherstellen(s, ui);
-        ui.StatusDatei(s.Datendatei);
         LoadKalenderIni(s, ui);
         // The month views cover the calendar year; a date outside it moves in first.
         const int jahr = std::clamp(static_cast<int>(s.Kalenderjahr), 100, 9999);

@@ -37,6 +37,7 @@
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <cmath>
@@ -301,7 +302,14 @@ void FrmMain::AuswahlAktualisieren() {
 }
 
 void FrmMain::StatusDatei(const QString& pfad) {
-    m_status[0]->setText(StatusDateitext(pfad));
+    QLabel* feld = m_status[0];
+    const QString text = StatusDateitext(pfad);
+    // The same file again leaves a note standing; another file ends it.
+    const bool notiz = feld->property("notizAktiv").toBool() && feld->property("datei").toString() == text;
+    feld->setProperty("datei", text);
+    if (notiz) return;
+    feld->setProperty("notizAktiv", false);
+    feld->setText(text);
 }
 
 void FrmMain::SeitentitelAktualisieren() {
@@ -349,7 +357,17 @@ void FrmMain::FokusFeldbox(int i) {
 }
 
 void FrmMain::Statusmeldung(const QString& text) {
-    statusBar()->showMessage(text, 10000);
+    // The file's panel fills the bar, so a note stands in it for a while; then the file again.
+    QLabel* feld = m_status[0];
+    const int notiz = feld->property("notiz").toInt() + 1;
+    feld->setProperty("notiz", notiz);
+    feld->setProperty("notizAktiv", true);
+    feld->setText(text);
+    QTimer::singleShot(10000, feld, [feld, notiz] {
+        if (feld->property("notiz").toInt() != notiz || !feld->property("notizAktiv").toBool()) return;
+        feld->setProperty("notizAktiv", false);
+        feld->setText(feld->property("datei").toString());
+    });
 }
 
 QString FrmMain::SpeicherDateiWaehlen(const QString& titel, const QString& filter, const QString& vorschlag) {

@@ -7,6 +7,7 @@
 #include "dialogs/FrmDrucken.h"
 #include "dialogs/Monatskalender.h"
 #include "dialogs/Seitenansicht.h"
+#include "persist/Kalenderdaten.h"
 
 #include <QAction>
 #include <QApplication>
@@ -152,6 +153,29 @@ TEST(Laden, EinJahrAusserhalbDerListeBleibtGueltig) {
     EXPECT_EQ(f.findChild<QComboBox*>("ComboJahr")->currentText(), "2026");
     EXPECT_EQ(f.findChild<Monatskalender*>("MonthView1")->maximumDate(), QDate(2026, 12, 31));
     EXPECT_EQ(s.Kalenderjahr, 2026);
+}
+
+TEST(Laden, DieTageDerLetztenSitzungSindMitIhrenMarkenDa) {
+    AppState s;
+    QTemporaryDir ordner;
+    Grundzustand(s, "ZP Kalender", ordner.path());
+    s.Kalenderjahr = 2027;
+    Kalenderdaten tage;
+    tage.Termine(5, 1) = "Zahnarzt";
+    QFile autoZpd(ordner.filePath("auto.zpd"));
+    ASSERT_TRUE(autoZpd.open(QIODevice::WriteOnly));
+    autoZpd.write(ZpdBytes(tage));
+    autoZpd.close();
+    Protokoll p;
+    TestFenster f(s, AlleDienste(p));
+    f.Laden();
+    EXPECT_EQ(s.Termine(5, 1), "Zahnarzt");
+    EXPECT_TRUE(s.Panel.MonthView1.Fett.contains(QDate(2027, 1, 5)));
+    // The status bar says what came back, then shows the file again.
+    auto* status = f.findChild<QLabel*>("StatusBar_1");
+    EXPECT_TRUE(status->text().contains("letzten Sitzung")) << status->text().toStdString();
+    f.StatusDatei(s.Programmpfad + "anders.zpd");
+    EXPECT_EQ(status->text(), "Aktuelle Datei: " + s.Programmpfad + "anders.zpd");
 }
 
 TEST(Laden, OhneDiensteBleibenDateibefehleAus) {
