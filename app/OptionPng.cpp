@@ -4,6 +4,7 @@
 
 #include "compose/Seitenbild.h"
 #include "core/state/AppState.h"
+#include "core/state/Massstab.h"
 
 #include <QImageWriter>
 #include <QSaveFile>
@@ -28,8 +29,8 @@ void SetzeMarkierung(zp::AppState& s) {
     const int n = static_cast<int>(s.RahmenNummer);
     if (!s.Rahmenliste.Gueltig(n) || n < 1) return;
     const zp::ClassRahmen& r = s.Rahmenliste(n);
-    const double m = s.Zoomfaktor / 100 * s.Geraetefaktor;
-    s.Rahmen = {r.X * m, r.Y * m, r.Breite * m, r.Höhe * m};
+    const zp::Massstab m = zp::Massstab::Ansicht(s);
+    s.Rahmen = {m.Twips(r.X), m.Twips(r.Y), m.Twips(r.Breite), m.Twips(r.Höhe)};
 }
 
 bool SchreibePng(zp::Batchlauf& lauf, const QString& datei) {

@@ -3,6 +3,7 @@
 #include "compose/Seitenmaler.h"
 #include "compose/canvas/GdiRunden.h"
 #include "core/state/AppState.h"
+#include "core/state/Massstab.h"
 
 #include <algorithm>
 
@@ -14,10 +15,9 @@ QSize SeitenbildGroesse(const AppState& s) {
                             s.AktuellesEtikett.Höhe <= 0;
     const double breite = ganzeSeite ? s.AktuelleSeite.Breite : s.AktuellesEtikett.Breite;
     const double hoehe = ganzeSeite ? s.AktuelleSeite.Höhe : s.AktuellesEtikett.Höhe;
-    const double twips = s.Geraetefaktor * s.Zoomfaktor / 100;
-    const double tppX = s.TwipsProPixelX > 0 ? s.TwipsProPixelX : 15;
-    const double tppY = s.TwipsProPixelY > 0 ? s.TwipsProPixelY : 15;
-    return {std::max(1, gdi::Lng(breite * twips / tppX)), std::max(1, gdi::Lng(hoehe * twips / tppY))};
+    const Massstab m = Massstab::Ansicht(s);
+    return {std::max(1, gdi::Lng(m.PixelX(m.Twips(breite)))),
+            std::max(1, gdi::Lng(m.PixelY(m.Twips(hoehe))))};
 }
 
 QImage ZeichneSeitenbild(AppState& s) {

@@ -1,10 +1,12 @@
 #include "compose/ZeichneSeite.h"
 
+#include "calendar/walks/KalenderLauf.h"
 #include "calendar/walks/KalenderZeichnen.h"
 #include "compose/canvas/GdiRunden.h"
 #include "compose/canvas/canvas.h"
 #include "core/runtime/Basic.h"
 #include "core/state/AppState.h"
+#include "core/state/Massstab.h"
 #include "core/state/Oberflaeche.h"
 #include "render/Bildweg.h"
 #include "render/ZeichneLinie.h"
@@ -24,35 +26,10 @@ bool An(double flag) {
     return flag != 0;
 }
 
-// Days of month m (rolled over past December) of year y.
-int Monatslaenge(int y, int m) {
-    return basic::DateSerial(y, m + 1, 0).day();
-}
-
-// Step 2: the week of page Seitennummer in the week calendar, counted from the first Monday
-// row of the year.
+// Step 2: the week of page Seitennummer in the week calendar.
 void BestimmeWoche(AppState& s) {
-    s.WocheMonat = 1;
-    s.WocheTag = 0;
-    if (s.Seitennummer == 1) return;
-    const int jahr = static_cast<int>(s.Kalenderjahr);
-    int t = basic::Weekday(basic::DateSerial(jahr - 1, 12, 31)) - 1;
-    if (t < 0) t = 6;
-    // A year has at most 54 week pages; a wild page number stops there instead of running on.
-    const double seiten = std::min(s.Seitennummer, 600.0);
-    double p = 1;
-    do {
-        while (t < 7) {
-            ++t;
-            s.WocheTag += 1;
-            if (s.WocheTag == Monatslaenge(jahr, static_cast<int>(s.WocheMonat))) {
-                s.WocheTag = 0;
-                s.WocheMonat += 1;
-            }
-        }
-        t = 0;
-        p += 1;
-    } while (p < seiten);
+    const double seite = s.Seitennummer >= 1 ? std::min(s.Seitennummer, 600.0) : 1;
+    Wochenstart(static_cast<int>(s.Kalenderjahr), static_cast<int>(seite), s.WocheTag, s.WocheMonat);
 }
 
 // Step 3: the draw scale of the target.
@@ -95,7 +72,7 @@ void ZeichneEtikettHintergrund(AppState& s, Canvas& ziel) {
 
 // Step 6: margins, the address window, fold and punch marks, and the grid (page picture only).
 void ZeichneHilfen(AppState& s, Canvas& seite) {
-    const double m = s.Zeichenfaktor * s.Geraetefaktor;
+    const double m = Massstab::Zeichnung(s).twipsJeZehntel;
     const ClassSeite& p = s.AktuelleSeite;
     using F = Canvas::LineForm;
     if (An(s.HilfsbereicheAn)) {
@@ -115,7 +92,7 @@ void ZeichneHilfen(AppState& s, Canvas& seite) {
     seite.ForeColor = RGB(192, 192, 192);
     if (s.GridAn == -1) {
         seite.DrawStyle = 2;
-        const double Z = s.Zeichenfaktor, Fg = s.Geraetefaktor;
+        const double Z = s.Zeichenfaktor, Fg = Massstab::Geraet(s).twipsJeZehntel;
         const double dy = s.Rasterhoehe * Z, dx = s.Rasterbreite * Z;
         int anzahl = 0;
         if (dy > 0)
@@ -131,7 +108,7 @@ void ZeichneHilfen(AppState& s, Canvas& seite) {
 
 // Step 8e: where the letter body goes, on the page picture of the letterhead.
 void ZeichneBrieftextHinweis(AppState& s, Canvas& seite, const ClassRahmen& r) {
-    const double m = s.Zeichenfaktor * s.Geraetefaktor;
+    const double m = Massstab::Zeichnung(s).twipsJeZehntel;
     seite.ForeColor = RGB(255, 255, 192);
     seite.Line(r.X * m, r.Y * m, (r.X + r.Breite) * m, (r.Y + r.Höhe) * m, -1,
                Canvas::LineForm::KastenGefuellt);
@@ -183,7 +160,8 @@ void ZeichneSchnitthilfen(AppState& s, Canvas& drucker) {
     const ClassEtikett& e = s.AktuellesEtikett;
     const bool art = An(s.IstEtikett) || An(s.IstVisitenkarte) || (An(s.IstKalender) && s.Kalendertyp == 3);
     if (!art) return;
-    const double fx = s.Geraetefaktor / s.TwipsProPixelX, fy = s.Geraetefaktor / s.TwipsProPixelY;
+    const Massstab g = Massstab::Geraet(s);
+    const double fx = g.PixelJeZehntelX(), fy = g.PixelJeZehntelY();
     auto px = [&](double v) { return gdi::Lng(std::trunc(v * fx)); };
     auto py = [&](double v) { return gdi::Lng(std::trunc(v * fy)); };
     if (e.Schnittrahmen != 0) {
@@ -252,18 +230,18 @@ void ZeichneSeite(AppState& s, Zeichenziele& ziele) {
 
     if (ziel) {
         // 4. Clear the target, or move the printer's origin to the label.
+        const Massstab g = Massstab::Geraet(s);
         if (aufDemSchirm) {
             ziel->DrawWidth = 1;
             ziel->DrawStyle = 0;
             ziel->DrawMode = 13;
             ziel->Cls();
         } else if (export_) {
-            ziel->SetzeGroesse(s.AktuellesEtikett.Breite * s.Geraetefaktor * s.ZoomExport,
-                               s.AktuellesEtikett.Höhe * s.Geraetefaktor * s.ZoomExport);
+            ziel->SetzeGroesse(g.Twips(s.AktuellesEtikett.Breite) * s.ZoomExport,
+                               g.Twips(s.AktuellesEtikett.Höhe) * s.ZoomExport);
         } else {
-            ziel->OffsetWindowOrgEx(
-                gdi::Lng(std::trunc(-s.DruckversatzX * s.Geraetefaktor / s.TwipsProPixelX)),
-                gdi::Lng(std::trunc(-s.DruckversatzY * s.Geraetefaktor / s.TwipsProPixelY)));
+            ziel->OffsetWindowOrgEx(gdi::Lng(std::trunc(-g.PixelX(g.Twips(s.DruckversatzX)))),
+                                    gdi::Lng(std::trunc(-g.PixelY(g.Twips(s.DruckversatzY)))));
         }
 
         // 5. Label background.
@@ -297,7 +275,7 @@ void ZeichneSeite(AppState& s, Zeichenziele& ziele) {
                 seite->ForeColor = 0;
                 seite->FillStyle = 1;
                 if (r.Sichtbar != 0) {
-                    const double m = s.Zeichenfaktor * s.Geraetefaktor;
+                    const double m = Massstab::Zeichnung(s).twipsJeZehntel;
                     seite->Line(r.X * m, r.Y * m, (r.X + r.Breite) * m, (r.Y + r.Höhe) * m, RGB(92, 92, 92),
                                 Canvas::LineForm::Kasten);
                 }

@@ -5,6 +5,7 @@
 #include "core/Sitzung.h"
 #include "core/runtime/Basic.h"
 #include "core/state/AppState.h"
+#include "core/state/Massstab.h"
 #include "core/state/Oberflaeche.h"
 #include "core/state/Objekte.h"
 #include "persist/Datensaetze.h"
@@ -76,7 +77,7 @@ void Main(AppState& s, const QString& programmpfad, Oberflaeche& ui) {
 
     // 4. and 5. The screen and the twips per tenth of a millimetre.
     LeseBildschirm(s);
-    s.Geraetefaktor = 5.67;
+    s.Geraetefaktor = TwipsJeZehntelmm;
 
     // 6. and 7. Paths, one-shot colour, start-up lock.
     s.Programmpfad = programmpfad.endsWith(u'/') ? programmpfad : programmpfad + u'/';

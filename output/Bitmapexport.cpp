@@ -3,6 +3,8 @@
 #include "compose/ZeichneSeite.h"
 #include "compose/canvas/ImageCanvas.h"
 #include "core/state/AppState.h"
+#include "core/state/Massstab.h"
+#include "core/state/Zeichenkontext.h"
 #include "render/Bildwerk.h"
 
 #include <cmath>
@@ -10,8 +12,9 @@
 namespace zp {
 
 QSizeF Lead2Groesse(const AppState& s) {
-    return {s.AktuellesEtikett.Breite * s.Geraetefaktor * s.ZoomExport,
-            s.AktuellesEtikett.Höhe * s.Geraetefaktor * s.ZoomExport};
+    const Massstab g = Massstab::Geraet(s);
+    return {g.Twips(s.AktuellesEtikett.Breite) * s.ZoomExport,
+            g.Twips(s.AktuellesEtikett.Höhe) * s.ZoomExport};
 }
 
 QImage ExportBild(AppState& s, Zeichenziele& ziele, const Komposition& zeichne, QString* fehler) {
@@ -36,22 +39,13 @@ QImage ExportBild(AppState& s, Zeichenziele& ziele, const Komposition& zeichne, 
     ImageCanvas lead2(QSize(static_cast<int>(breite), static_cast<int>(hoehe)), CanvasArt::Export,
                       ExportTwipsProPixel, ExportTwipsProPixel);
     // The device that draws sets the pixel size of the composition's device operations.
-    struct Aufraeumen {
-        AppState& s;
+    struct Zielzurueck {
         Zeichenziele& z;
         Canvas* lead2;
-        double tppX, tppY;
-        ~Aufraeumen() {
-            s.ExportAktiv = 0;
-            z.Lead2 = lead2;
-            s.TwipsProPixelX = tppX;
-            s.TwipsProPixelY = tppY;
-        }
-    } aufraeumen{s, ziele, ziele.Lead2, s.TwipsProPixelX, s.TwipsProPixelY};
+        ~Zielzurueck() { z.Lead2 = lead2; }
+    } zielzurueck{ziele, ziele.Lead2};
     ziele.Lead2 = &lead2;
-    s.TwipsProPixelX = ExportTwipsProPixel;
-    s.TwipsProPixelY = ExportTwipsProPixel;
-    s.ExportAktiv = -1;
+    const Zeichenkontext kontext(s, Zeichenkontext::Art::Export, ExportTwipsProPixel, ExportTwipsProPixel);
     zeichne(s, ziele);
     return lead2.Bild();
 }

@@ -4,7 +4,9 @@
 #include "compose/canvas/canvas.h"
 #include "core/runtime/Basic.h"
 #include "core/state/AppState.h"
+#include "core/state/Massstab.h"
 #include "core/state/Oberflaeche.h"
+#include "core/state/Zeichenkontext.h"
 #include "output/Druckausgabe.h"
 
 #include <algorithm>
@@ -17,31 +19,23 @@ namespace {
 
 const QString kTitel = QStringLiteral("Drucken");
 
-int32_t InPixel(double laenge, double faktor, double twipsProPixel) {
-    return static_cast<int32_t>(std::trunc(laenge * faktor / twipsProPixel));
-}
-
 QString Kategorietext(const QString& text) {
     return text.trimmed().toUpper();
 }
 
 // What a run changes in the state and gives back at its end, whatever way it ends.
 struct Gesichert {
-    double Seitennummer, DatensatzNummer, TwipsProPixelX, TwipsProPixelY;
+    double Seitennummer, DatensatzNummer;
     int32_t Randlinks, Randoben;
     bool RaenderGeaendert = false;
 
     explicit Gesichert(const AppState& s)
-        : Seitennummer(s.Seitennummer), DatensatzNummer(s.DatensatzNummer), TwipsProPixelX(s.TwipsProPixelX),
-          TwipsProPixelY(s.TwipsProPixelY), Randlinks(s.AktuelleSeite.Randlinks),
-          Randoben(s.AktuelleSeite.Randoben) {}
+        : Seitennummer(s.Seitennummer), DatensatzNummer(s.DatensatzNummer),
+          Randlinks(s.AktuelleSeite.Randlinks), Randoben(s.AktuelleSeite.Randoben) {}
 
     void DruckwerteZurueck(AppState& s) const {
-        s.TwipsProPixelX = TwipsProPixelX;
-        s.TwipsProPixelY = TwipsProPixelY;
         s.DruckversatzX = s.DruckversatzY = 0;
         s.EtikettX = s.EtikettY = 0;
-        s.DruckenAktiv = 0;
     }
     void AllesZurueck(AppState& s) const {
         DruckwerteZurueck(s);
@@ -307,14 +301,15 @@ Druckergebnis Druckgang::Laufe() {
         if (Kalender() && Typ() == 6) WocheAufSeite(s, static_cast<int>(s.Seitennummer));
 
         for (;;) {
-            Canvas& c = ausgabe.Leinwand();
-            s.DruckenAktiv = -1;
-            s.TwipsProPixelX = c.TwipsPerPixelX();
-            s.TwipsProPixelY = c.TwipsPerPixelY();
-            if (Einzelseite())
-                Einzelstueck();
-            else
-                Raster();
+            {
+                Canvas& c = ausgabe.Leinwand();
+                const Zeichenkontext kontext(s, Zeichenkontext::Art::Druck, c.TwipsPerPixelX(),
+                                             c.TwipsPerPixelY());
+                if (Einzelseite())
+                    Einzelstueck();
+                else
+                    Raster();
+            }
             raender.DruckwerteZurueck(s);
             if (!Kalender() || !NaechsteKalenderseite()) break;
         }
@@ -335,8 +330,9 @@ Druckergebnis Druckgang::Laufe() {
 } // namespace
 
 void WendeDruckversatzAn(const AppState& s, Canvas& c) {
-    c.OffsetWindowOrgEx(-InPixel(s.DruckversatzX, s.Geraetefaktor, s.TwipsProPixelX),
-                        -InPixel(s.DruckversatzY, s.Geraetefaktor, s.TwipsProPixelY));
+    const Massstab g = Massstab::Geraet(s);
+    c.OffsetWindowOrgEx(-static_cast<int32_t>(std::trunc(g.PixelX(g.Twips(s.DruckversatzX)))),
+                        -static_cast<int32_t>(std::trunc(g.PixelY(g.Twips(s.DruckversatzY)))));
 }
 
 Druckergebnis PrintDocument(AppState& s, Oberflaeche& o, Druckausgabe& ausgabe, const Druckwahl& wahl,

@@ -17,10 +17,7 @@ void WocheWeiter(AppState& s, int seite) {
 }
 
 void WocheAufSeite(AppState& s, int seite) {
-    s.WocheMonat = 1;
-    s.WocheTag = 0;
-    for (int p = 1; p < seite; ++p)
-        WocheWeiter(s, p);
+    Wochenstart(static_cast<int>(s.Kalenderjahr), seite, s.WocheTag, s.WocheMonat);
 }
 
 } // namespace zp

@@ -2,6 +2,7 @@
 
 #include "core/state/AppState.h"
 #include "core/state/Oberflaeche.h"
+#include "core/state/Zeichenkontext.h"
 
 #include <QBuffer>
 #include <QDesktopServices>
@@ -64,16 +65,14 @@ bool SchreibeWorddokument(const QImage& seite, double breiteMm, QIODevice& ziel)
 
 QString mnuWord(AppState& s, Oberflaeche& o, const Exportbild& exportbild, const QString& ziel,
                 bool oeffnen) {
-    s.ExportAktiv = -1;
     QImage seite;
     try {
+        const Zeichenkontext kontext(s, Zeichenkontext::Art::Export);
         seite = exportbild(s);
     } catch (...) {
-        s.ExportAktiv = 0;
         o.Meldung(QStringLiteral("Die Seite konnte nicht als Bild gezeichnet werden."), kTitel);
         return {};
     }
-    s.ExportAktiv = 0;
 
     // The picture goes through a file in the temporary folder, as the word processor gets it.
     const QString bmp = QDir(QDir::tempPath()).filePath(QStringLiteral("test.bmp"));

@@ -4,6 +4,7 @@
 
 #include "compose/canvas/canvas.h"
 #include "core/state/AppState.h"
+#include "core/state/Massstab.h"
 #include "render/BildLaden.h"
 #include "render/Bildwerk.h"
 
@@ -74,10 +75,11 @@ void ZeichneBildHintergrund(AppState& s, Canvas& ziel) {
     BildLaden(s, s.AktuellesBild, lead);
     if (ziel.Art() == CanvasArt::Drucker) {
         // The printer gets the label at its own size; the print zoom plays no part here.
-        lead.Render(ziel, QRectF(0, 0, e.Breite * s.Geraetefaktor, e.Höhe * s.Geraetefaktor));
+        const Massstab g = Massstab::Geraet(s);
+        lead.Render(ziel, QRectF(0, 0, g.Twips(e.Breite), g.Twips(e.Höhe)));
     } else {
-        const double f = s.Zeichenfaktor * s.Geraetefaktor;
-        lead.Render(ziel, QRectF(r.X * f, r.Y * f, r.Breite * f, r.Höhe * f));
+        const Massstab m = Massstab::Zeichnung(s);
+        lead.Render(ziel, QRectF(m.Twips(r.X), m.Twips(r.Y), m.Twips(r.Breite), m.Twips(r.Höhe)));
     }
 }
 
@@ -122,8 +124,8 @@ void ZeichneBildRahmen(AppState& s, Canvas& ziel, int n) {
     if (BildWirdEingepasst(s, rahmen))
         r = EingepassterRahmen(rahmen.X, rahmen.Y, rahmen.Breite, rahmen.Höhe, lead.BitmapWidth(),
                                lead.BitmapHeight());
-    const double f = s.Zeichenfaktor * s.Geraetefaktor;
-    lead.Render(ziel, QRectF(r.x() * f, r.y() * f, r.width() * f, r.height() * f));
+    const Massstab m = Massstab::Zeichnung(s);
+    lead.Render(ziel, QRectF(m.Twips(r.x()), m.Twips(r.y()), m.Twips(r.width()), m.Twips(r.height())));
 }
 
 } // namespace zp

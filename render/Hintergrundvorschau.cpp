@@ -2,6 +2,7 @@
 
 #include "compose/canvas/canvas.h"
 #include "core/state/AppState.h"
+#include "core/state/Zeichenkontext.h"
 #include "render/BildLaden.h"
 #include "render/Bildweg.h"
 #include "render/Bildwerk.h"
@@ -11,36 +12,14 @@
 
 namespace zp {
 
-namespace {
-
-// Puts the scale of the composition back however the preview ends.
-struct Massstab {
-    AppState& s;
-    double zeichenfaktor, geraetefaktor, zoomfaktor, tppX, tppY;
-    explicit Massstab(AppState& st)
-        : s(st), zeichenfaktor(st.Zeichenfaktor), geraetefaktor(st.Geraetefaktor), zoomfaktor(st.Zoomfaktor),
-          tppX(st.TwipsProPixelX), tppY(st.TwipsProPixelY) {}
-    ~Massstab() {
-        s.Zeichenfaktor = zeichenfaktor;
-        s.Geraetefaktor = geraetefaktor;
-        s.Zoomfaktor = zoomfaktor;
-        s.TwipsProPixelX = tppX;
-        s.TwipsProPixelY = tppY;
-    }
-};
-
-} // namespace
-
 void ZeichneHintergrundVorschau(AppState& s, Canvas& box, const ClassEtikett& etikett) {
     box.Cls();
     const int art = etikett.Farbüberlauf;
     if (art < 1) return;
 
-    Massstab gesichert(s);
-    s.Zeichenfaktor = 1;
-    s.Geraetefaktor = 1;
-    s.TwipsProPixelX = box.TwipsPerPixelX();
-    s.TwipsProPixelY = box.TwipsPerPixelY();
+    // The preview box is measured in its own pixels, at the true size.
+    Zeichenkontext kontext(s, Zeichenkontext::Art::Bildschirm, box.TwipsPerPixelX(), box.TwipsPerPixelY());
+    kontext.SetzeFaktoren(1, 1);
     const double breite = box.Width();
     const double hoehe = box.Height();
 

@@ -5,6 +5,7 @@
 #include "compose/canvas/canvas.h"
 #include "core/runtime/Basic.h"
 #include "core/state/AppState.h"
+#include "core/state/Massstab.h"
 
 #include <vector>
 
@@ -18,13 +19,12 @@ void ZeichneKartendesign(AppState& s, Canvas& ziel, double breite, double hoehe,
     ziel.DrawStyle = 0;
 
     // W and H follow the zoom; A is taken as twips as it stands.
-    const double W = breite * s.Geraetefaktor * s.Zeichenfaktor;
-    const double H = hoehe * s.Geraetefaktor * s.Zeichenfaktor;
+    const Massstab g = Massstab::Geraet(s);
+    const double W = g.Twips(breite) * s.Zeichenfaktor;
+    const double H = g.Twips(hoehe) * s.Zeichenfaktor;
     const double A = designbreite;
-    const double tppX = s.TwipsProPixelX;
-    const double tppY = s.TwipsProPixelY;
-    auto px = [&](double x) { return static_cast<int>(basic::RoundHalfEven(x / tppX)); };
-    auto py = [&](double y) { return static_cast<int>(basic::RoundHalfEven(y / tppY)); };
+    auto px = [&](double x) { return static_cast<int>(basic::RoundHalfEven(g.PixelX(x))); };
+    auto py = [&](double y) { return static_cast<int>(basic::RoundHalfEven(g.PixelY(y))); };
     auto rechteck = [&](double l, double t, double r, double b) {
         ziel.Rectangle(px(l), py(t), px(r), py(b));
     };

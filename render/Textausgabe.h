@@ -3,6 +3,7 @@
 // output of the string by the kind of canvas.
 
 #include "compose/canvas/canvas.h"
+#include "core/state/Massstab.h"
 #include "model/Klassen.h"
 
 #include <QString>
@@ -13,7 +14,7 @@ struct AppState;
 struct Textlage {
     double X0 = 0, Y0 = 0; // start point, tenths of a millimetre
     double Z = 1;          // draw scale
-    double F = 5.67;       // twips per tenth of a millimetre
+    double F = TwipsJeZehntelmm;
     double w = 0, h = 0;   // measured text, twips
     QString Text;          // the expanded working string
     GdiHandle Schrift = 0; // the text's font, selected in the canvas

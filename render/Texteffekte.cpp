@@ -2,6 +2,7 @@
 // or drawn again through a clip that shrinks band by band.
 #include "compose/canvas/GdiRunden.h"
 #include "core/state/AppState.h"
+#include "core/state/Massstab.h"
 #include "render/Farbanteile.h"
 #include "render/Textausgabe.h"
 #include "render/ZeichneSchrift.h"
@@ -50,8 +51,8 @@ void ZeichneTextschatten(AppState& s, Canvas& ziel, const ClassSchrift& schrift,
 
 void ZeichneTextverlauf(AppState& s, Canvas& ziel, const ClassSchrift& schrift, const Textlage& lage) {
     const double Z = lage.Z, F = lage.F;
-    const double tppX = s.TwipsProPixelX > 0 ? s.TwipsProPixelX : 15;
-    const double tppY = s.TwipsProPixelY > 0 ? s.TwipsProPixelY : 15;
+    const Massstab m = Massstab::Zeichnung(s);
+    const double tppX = m.twipsProPixelX, tppY = m.twipsProPixelY;
     const int n = Schritte(s);
     // A margin of one letter for the overhang of italics.
     const double E = schrift.Italic != 0 ? ziel.TextWidth(QStringLiteral("i")) : ziel.TextWidth(QString());

@@ -3,6 +3,7 @@
 #include "compose/canvas/GdiRunden.h"
 #include "compose/canvas/canvas.h"
 #include "core/state/AppState.h"
+#include "core/state/Massstab.h"
 #include "render/Farbanteile.h"
 #include "render/FormZeichnen.h"
 
@@ -70,14 +71,11 @@ void ZeichneLinie(AppState& s, Canvas& ziel, ClassLinie& linie, ClassRahmen& rah
     // 2. Scale; a preview is drawn at the true size.
     Formlage g;
     g.Zeichenfaktor = s.Zeichenfaktor;
-    g.PX = s.TwipsProPixelX > 0 ? s.TwipsProPixelX : 15;
-    g.PY = s.TwipsProPixelY > 0 ? s.TwipsProPixelY : 15;
-    if (s.Vorschaumodus != 0) {
-        ziel.Cls();
-        g.S = s.Geraetefaktor;
-    } else {
-        g.S = s.Zeichenfaktor * s.Geraetefaktor;
-    }
+    const Massstab m = s.Vorschaumodus != 0 ? Massstab::Geraet(s) : Massstab::Zeichnung(s);
+    g.PX = m.twipsProPixelX;
+    g.PY = m.twipsProPixelY;
+    g.S = m.twipsJeZehntel;
+    if (s.Vorschaumodus != 0) ziel.Cls();
 
     // 3./4. Pen: one pixel around bars, the line strength for diagonals and figures.
     Grundzustand(ziel);
@@ -151,8 +149,8 @@ void ZeichneLinie(AppState& s, Canvas& ziel, ClassLinie& linie, ClassRahmen& rah
                 ziel.CreateRectRgn(gdi::Lng(b.left), gdi::Lng(b.top), gdi::Lng(b.right), gdi::Lng(b.bottom));
             ziel.SelectClipRgn(region);
             if (versetzt)
-                ziel.OffsetClipRgn(gdi::Lng(s.DruckversatzX * s.Geraetefaktor / g.PX),
-                                   gdi::Lng(s.DruckversatzY * s.Geraetefaktor / g.PY));
+                ziel.OffsetClipRgn(gdi::Lng(m.PixelX(Massstab::Geraet(s).Twips(s.DruckversatzX))),
+                                   gdi::Lng(m.PixelY(Massstab::Geraet(s).Twips(s.DruckversatzY))));
             FormZeichnen(ziel, linie, rahmen, g);
             ziel.DeleteObject(region);
         }

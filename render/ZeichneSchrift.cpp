@@ -2,6 +2,7 @@
 
 #include "compose/canvas/GdiRunden.h"
 #include "core/state/AppState.h"
+#include "core/state/Massstab.h"
 #include "render/Platzhalter.h"
 #include "render/Textausgabe.h"
 
@@ -125,8 +126,8 @@ void GibTextAus(AppState& s, Canvas& ziel, const Textlage& lage, Farbe farbe) {
     }
     // Printer and export bitmap: the font goes into the device context once more before output.
     ziel.SelectObject(lage.Schrift);
-    ziel.TextOutA(gdi::Lng(ziel.CurrentX / s.TwipsProPixelX), gdi::Lng(ziel.CurrentY / s.TwipsProPixelY),
-                  lage.Text);
+    const Massstab m = Massstab::Zeichnung(s);
+    ziel.TextOutA(gdi::Lng(m.PixelX(ziel.CurrentX)), gdi::Lng(m.PixelY(ziel.CurrentY)), lage.Text);
 }
 
 void ZeichneSchrift(AppState& s, Canvas& ziel, ClassSchrift& schrift, ClassRahmen& rahmen) {
@@ -145,7 +146,7 @@ void ZeichneSchrift(AppState& s, Canvas& ziel, ClassSchrift& schrift, ClassRahme
     lage.Z = vorschau ? 1.0 : s.Zeichenfaktor;
     lage.F = s.Geraetefaktor;
     if (!(lage.Z > 0)) lage.Z = 1; // a scale of 0 would divide by zero in every anchor
-    if (!(lage.F > 0)) lage.F = 5.67;
+    if (!(lage.F > 0)) lage.F = TwipsJeZehntelmm;
     const double Z = lage.Z, F = lage.F;
 
     // 3./4. The working string: empty for a hidden text on the page, keywords replaced.

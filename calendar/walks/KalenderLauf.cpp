@@ -4,6 +4,8 @@
 #include "calendar/data/Tagesdaten.h"
 #include "core/state/AppState.h"
 
+#include <algorithm>
+
 namespace zp {
 
 namespace {
@@ -96,6 +98,8 @@ void Wochenstart(int jahr, int seite, double& wocheTag, double& wocheMonat) {
     wocheMonat = 1;
     if (!JahrGueltig(jahr)) return;
     const Monatstafel tafel(jahr);
+    // A year has at most 54 week pages; a wild page number stops there instead of running on.
+    seite = std::min(seite, 600);
     for (int p = 1; p <= seite - 1; ++p)
         NaechsteWoche(tafel, p, wocheTag, wocheMonat);
 }

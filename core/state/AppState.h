@@ -5,6 +5,7 @@
 // `Panel`, and the main window mirrors them.
 
 #include "core/runtime/Liste.h"
+#include "core/state/Massstab.h"
 #include "model/Klassen.h"
 #include "model/SeiteEtikett.h"
 
@@ -116,7 +117,7 @@ struct AppState {
     // ---- Composition context ------------------------------------------------------------------
     float DruckenAktiv = 0;
     float ExportAktiv = 0;
-    double Geraetefaktor = 5.67; // twips per tenth of a millimetre
+    double Geraetefaktor = TwipsJeZehntelmm;
     double TwipsProPixelX = 15;
     double TwipsProPixelY = 15;
     double BildschirmBreite = 0; // screen size, twips

@@ -2,14 +2,12 @@
 // The zoom of the page view and the ticks of its rulers, without the widgets: the window asks
 // these for numbers and sizes and applies them to the viewport.
 
+#include "core/state/Massstab.h"
 #include <QSizeF>
 #include <vector>
 
 namespace zp {
 struct AppState;
-
-// Twips of one tenth of a millimetre at 100 %.
-inline constexpr double TwipsJeZehntelmm = 5.67;
 
 // The size that the view shows, tenths of a millimetre: the page in the calendar and the
 // letterhead, one label in every other edition (they edit one card, not the sheet).
