@@ -1,13 +1,16 @@
 // Redraw of a business card at zoom 150 with a pattern background, a design band and a
 // 4000 x 3000 JPEG photograph with corrections in a picture frame: the first redraw (the
 // photograph is loaded and corrected) and the following ones (the finished bitmap comes from the
-// picture cache). The goal for the following redraws is under 30 ms.
+// picture cache). The goal for the first redraw is under 60 ms, for the following ones under
+// 30 ms; Qt's plain decode of the photograph is the floor the first one is compared with.
 #include "compose/ZeichneSeite.h"
 #include "compose/canvas/ImageCanvas.h"
 #include "core/state/AppState.h"
+#include "core/state/Massstab.h"
 
 #include <QDir>
 #include <QImage>
+#include <QImageReader>
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 
@@ -78,7 +81,8 @@ void Neuzeichnen(zp::AppState& s, zp::ImageCanvas& seite) {
 }
 
 QSize Seitengroesse() {
-    return {static_cast<int>(850 * 5.67 * 1.5 / 15) + 1, static_cast<int>(550 * 5.67 * 1.5 / 15) + 1};
+    return {static_cast<int>(850 * zp::TwipsJeZehntelmm * 1.5 / 15) + 1,
+            static_cast<int>(550 * zp::TwipsJeZehntelmm * 1.5 / 15) + 1};
 }
 
 void KarteErsterAufbau(benchmark::State& state) {
@@ -92,7 +96,17 @@ void KarteErsterAufbau(benchmark::State& state) {
         Neuzeichnen(*s, seite);
     }
 }
-BENCHMARK(KarteErsterAufbau)->Unit(benchmark::kMillisecond)->Iterations(3);
+BENCHMARK(KarteErsterAufbau)->Unit(benchmark::kMillisecond)->Iterations(3)->Repetitions(5);
+
+// The floor of the first redraw: Qt's own decode of the same photograph, at full size.
+void FotoQtDekodieren(benchmark::State& state) {
+    const Karte& karte = DieKarte();
+    for (auto _ : state) {
+        QImageReader leser(karte.foto);
+        benchmark::DoNotOptimize(leser.read());
+    }
+}
+BENCHMARK(FotoQtDekodieren)->Unit(benchmark::kMillisecond)->Iterations(3)->Repetitions(5);
 
 void KarteFolgendeAufbauten(benchmark::State& state) {
     const Karte& karte = DieKarte();

@@ -27,7 +27,9 @@ Druckergebnis Drucke(AppState& s, Oberflaeche& ui, const QString& drucker, const
                      const Druckauftrag& auftrag, const Druckfortschritt& fortschritt) {
     const QString titel = QStringLiteral("Drucken");
     QString meldung;
-    const QString name = WaehleDrucker(drucker, Druckerliste(), meldung);
+    // A PDF file needs no word from the print system.
+    const QString name =
+        drucker.trimmed() == kPdfDatei ? kPdfDatei : WaehleDrucker(drucker, Druckerliste(), meldung);
     if (name.isEmpty()) {
         ui.Meldung(meldung, titel);
         return Druckergebnis::Fehler;

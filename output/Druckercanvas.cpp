@@ -7,6 +7,8 @@
 #include <QFileInfo>
 #include <QPageLayout>
 #include <QPageSize>
+#include <QPdfWriter>
+#include <QPrinter>
 #include <cstdio>
 
 namespace zp {
@@ -32,25 +34,31 @@ DruckerHalter::DruckerHalter(const QString& drucker, const QString& pdfDatei, co
     if (m_pdf) {
         m_ziel = QFileInfo(pdfDatei).absoluteFilePath();
         m_zwischen = m_ziel + QStringLiteral(".entsteht");
-        m_drucker.setOutputFormat(QPrinter::PdfFormat);
-        m_drucker.setOutputFileName(m_zwischen);
-        m_drucker.setResolution(kPdfAufloesung);
+        m_pdfDatei = std::make_unique<QPdfWriter>(m_zwischen);
+        m_pdfDatei->setResolution(kPdfAufloesung);
         // The paper's corner is the origin: a file has no unprintable margin.
-        m_drucker.setFullPage(true);
-        m_drucker.setPageLayout(Papier(seite));
+        m_pdfDatei->setPageLayout(Papier(seite));
+        m_pdfDatei->setTitle(QStringLiteral("ZP"));
+        m_geraet = m_pdfDatei.get();
+        m_aufloesung = m_pdfDatei->resolution();
     } else {
-        m_drucker.setPrinterName(drucker);
+        m_drucker = std::make_unique<QPrinter>(QPrinter::HighResolution);
+        m_drucker->setPrinterName(drucker);
         const QPageLayout papier = Papier(seite);
-        m_drucker.setPageSize(papier.pageSize());
-        m_drucker.setPageOrientation(papier.orientation());
+        m_drucker->setPageSize(papier.pageSize());
+        m_drucker->setPageOrientation(papier.orientation());
+        m_drucker->setDocName(QStringLiteral("ZP"));
+        m_geraet = m_drucker.get();
+        m_aufloesung = m_drucker->resolution();
     }
-    m_drucker.setDocName(QStringLiteral("ZP"));
 }
+
+DruckerHalter::~DruckerHalter() = default;
 
 Druckercanvas::Druckercanvas(const QString& drucker, const QString& pdfDatei, const ClassSeite& seite)
     : DruckerHalter(drucker, pdfDatei, seite),
-      PainterCanvas(m_maler, CanvasArt::Drucker, 1440.0 / std::max(1, m_drucker.resolution()),
-                    1440.0 / std::max(1, m_drucker.resolution())) {}
+      PainterCanvas(m_maler, CanvasArt::Drucker, 1440.0 / std::max(1, m_aufloesung),
+                    1440.0 / std::max(1, m_aufloesung)) {}
 
 Druckercanvas::~Druckercanvas() {
     if (m_maler.isActive()) m_maler.end();
@@ -79,16 +87,16 @@ bool Druckercanvas::Oeffne() {
                        .arg(QDir::toNativeSeparators(QFileInfo(m_ziel).absolutePath()));
         return false;
     }
-    if (!m_pdf && !m_drucker.isValid()) {
-        m_fehler = QStringLiteral("Der Drucker \"%1\" ist nicht verfügbar.").arg(m_drucker.printerName());
+    if (!m_pdf && !m_drucker->isValid()) {
+        m_fehler = QStringLiteral("Der Drucker \"%1\" ist nicht verfügbar.").arg(m_drucker->printerName());
         return false;
     }
-    if (!m_maler.begin(&m_drucker)) {
+    if (!m_maler.begin(m_geraet)) {
         m_fehler =
             m_pdf
                 ? QStringLiteral("Die Datei \"%1\" kann nicht geschrieben werden.")
                       .arg(QDir::toNativeSeparators(m_ziel))
-                : QStringLiteral("Der Drucker \"%1\" nimmt keinen Auftrag an.").arg(m_drucker.printerName());
+                : QStringLiteral("Der Drucker \"%1\" nimmt keinen Auftrag an.").arg(m_drucker->printerName());
         return false;
     }
     m_auftragOffen = true;
@@ -99,7 +107,7 @@ bool Druckercanvas::Oeffne() {
 
 void Druckercanvas::NeueSeite() {
     if (!m_maler.isActive()) return;
-    m_drucker.newPage();
+    m_geraet->newPage();
     ++m_seiten;
     SeiteEinrichten();
 }
@@ -130,15 +138,15 @@ bool Druckercanvas::Abschliessen() {
 }
 
 bool Druckercanvas::KopienSelbst() const {
-    return !m_pdf && m_drucker.supportsMultipleCopies();
+    return !m_pdf && m_drucker->supportsMultipleCopies();
 }
 
 void Druckercanvas::SetzeKopien(int kopien) {
-    if (KopienSelbst()) m_drucker.setCopyCount(std::max(1, kopien));
+    if (KopienSelbst()) m_drucker->setCopyCount(std::max(1, kopien));
 }
 
 int Druckercanvas::GetDeviceCaps(int index) const {
-    const int aufloesung = m_drucker.resolution();
+    const int aufloesung = m_aufloesung;
     switch (index) {
     case LOGPIXELSX:
     case LOGPIXELSY:
@@ -146,7 +154,7 @@ int Druckercanvas::GetDeviceCaps(int index) const {
     case PHYSICALOFFSETX:
     case PHYSICALOFFSETY: {
         if (m_pdf) return 0;
-        const QRect druckbar = m_drucker.pageLayout().paintRectPixels(aufloesung);
+        const QRect druckbar = m_drucker->pageLayout().paintRectPixels(aufloesung);
         return index == PHYSICALOFFSETX ? druckbar.left() : druckbar.top();
     }
     default:

@@ -1,21 +1,30 @@
 #pragma once
 // The printer canvas: the QPainter canvas on a QPrinter, at the printer's resolution, so that the
 // twips per pixel are the printer's and a point stays a point. It prints to a queue of the print
-// system or, as "PDF-Datei", into a PDF file that replaces the target only once it is complete.
+// system or, as "PDF-Datei", through a QPdfWriter into a PDF file that replaces the target only once
+// it is complete; a file needs nothing of the print system.
 
 #include "compose/canvas/PainterCanvas.h"
 #include "model/SeiteEtikett.h"
 #include "output/Druckausgabe.h"
 
+#include <QPagedPaintDevice>
 #include <QPainter>
-#include <QPrinter>
+#include <memory>
+
+class QPdfWriter;
+class QPrinter;
 
 namespace zp {
 
-// Printer and painter exist before the canvas that draws with them.
+// Device and painter exist before the canvas that draws with them.
 struct DruckerHalter {
     DruckerHalter(const QString& drucker, const QString& pdfDatei, const ClassSeite& seite);
-    QPrinter m_drucker{QPrinter::HighResolution};
+    ~DruckerHalter();
+    std::unique_ptr<QPrinter> m_drucker;    // a queue of the print system
+    std::unique_ptr<QPdfWriter> m_pdfDatei; // "PDF-Datei"
+    QPagedPaintDevice* m_geraet = nullptr;  // whichever of the two
+    int m_aufloesung = 600;                 // dots per inch
     QPainter m_maler;
     bool m_pdf = false;
     QString m_ziel;     // the PDF file the user named

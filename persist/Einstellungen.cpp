@@ -197,7 +197,8 @@ const std::vector<Schluessel>& Schluesseltabelle() {
             // Only an installed printer becomes the current one; else the system's default stays.
             {QStringLiteral("Drucker = "), QStringLiteral("drucker"), AktuellerDrucker,
              [](AppState& s, const QString& w) {
-                 if (QPrinterInfo::availablePrinterNames().contains(w)) s.Druckername = w;
+                 // An empty name asks the print system nothing: most runs never print.
+                 if (!w.isEmpty() && QPrinterInfo::availablePrinterNames().contains(w)) s.Druckername = w;
              }},
             {QStringLiteral("Dateien1 = "), QStringLiteral("dateien1"),
              [](const AppState& s) { return s.Dateiliste(1); },

@@ -27,17 +27,18 @@ std::optional<BildSchluessel> SchluesselFuer(const ClassBild& bild) {
     return k;
 }
 
-std::optional<QImage> Bildcache::Finde(const BildSchluessel& schluessel) {
+std::optional<QImage> Bildcache::Finde(const BildSchluessel& schluessel, QSize* vollgroesse) {
     for (auto it = m_eintraege.begin(); it != m_eintraege.end(); ++it) {
         if (it->schluessel == schluessel) {
             m_eintraege.splice(m_eintraege.begin(), m_eintraege, it);
+            if (vollgroesse) *vollgroesse = m_eintraege.front().vollgroesse;
             return m_eintraege.front().bild;
         }
     }
     return std::nullopt;
 }
 
-void Bildcache::Ablegen(const BildSchluessel& schluessel, const QImage& bild) {
+void Bildcache::Ablegen(const BildSchluessel& schluessel, const QImage& bild, QSize vollgroesse) {
     for (auto it = m_eintraege.begin(); it != m_eintraege.end(); ++it) {
         if (it->schluessel == schluessel) {
             m_bytes -= it->bild.sizeInBytes();
@@ -51,7 +52,7 @@ void Bildcache::Ablegen(const BildSchluessel& schluessel, const QImage& bild) {
         m_bytes -= m_eintraege.back().bild.sizeInBytes();
         m_eintraege.pop_back();
     }
-    m_eintraege.push_front({schluessel, bild});
+    m_eintraege.push_front({schluessel, bild, vollgroesse});
     m_bytes += groesse;
 }
 

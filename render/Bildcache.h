@@ -7,6 +7,7 @@
 #include "model/Klassen.h"
 
 #include <QImage>
+#include <QSize>
 #include <QString>
 #include <list>
 #include <optional>
@@ -21,6 +22,8 @@ struct BildSchluessel {
     int16_t Helligkeit = 0, Kontrast = 0, Farbverschiebung = 0, Schärfe = 0, EffektTrapez = 0;
     int32_t Farbintensität = 0, EffektPixel = 0, EffektMosaik = 0;
     Wahrheit Invert = 0, Gray = 0;
+    // The device size a reduced screen copy was made for; empty for the full picture.
+    QSize bildschirm;
 
     bool operator==(const BildSchluessel&) const = default;
 };
@@ -32,10 +35,11 @@ class Bildcache {
 public:
     explicit Bildcache(qint64 budgetBytes = 256LL * 1024 * 1024) : m_budget(budgetBytes) {}
 
-    // The finished bitmap, or none; a hit becomes the newest entry.
-    [[nodiscard]] std::optional<QImage> Finde(const BildSchluessel& schluessel);
+    // The finished bitmap, or none; a hit becomes the newest entry. `vollgroesse` takes the size
+    // of the picture a reduced bitmap stands for.
+    [[nodiscard]] std::optional<QImage> Finde(const BildSchluessel& schluessel, QSize* vollgroesse = nullptr);
     // Keeps a bitmap; one larger than the whole budget is not kept.
-    void Ablegen(const BildSchluessel& schluessel, const QImage& bild);
+    void Ablegen(const BildSchluessel& schluessel, const QImage& bild, QSize vollgroesse = {});
 
     // A file that could not be loaded, remembered so that its message is given once per state of
     // the file and not on every redraw.
@@ -50,6 +54,7 @@ private:
     struct Eintrag {
         BildSchluessel schluessel;
         QImage bild;
+        QSize vollgroesse;
     };
     std::list<Eintrag> m_eintraege; // newest first
     std::list<BildSchluessel> m_fehler;

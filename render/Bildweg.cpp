@@ -72,7 +72,9 @@ void ZeichneBildHintergrund(AppState& s, Canvas& ziel) {
     NeuesArbeitsbild(s.AktuellesBild, datei);
     if (!DateiVorhanden(datei)) return;
 
-    BildLaden(s, s.AktuellesBild, lead);
+    const Massstab bildschirm = Massstab::Zeichnung(s);
+    BildLaden(s, s.AktuellesBild, lead,
+              BildschirmGroesse(s, ziel, bildschirm.Twips(r.Breite), bildschirm.Twips(r.Höhe)));
     if (ziel.Art() == CanvasArt::Drucker) {
         // The printer gets the label at its own size; the print zoom plays no part here.
         const Massstab g = Massstab::Geraet(s);
@@ -116,7 +118,10 @@ void ZeichneBildRahmen(AppState& s, Canvas& ziel, int n) {
 
     Lead& lead = BildwerkVon(s).Lead;
     LeadRechteckLeeren(lead);
-    BildLaden(s, bild, lead);
+    // The fit only makes the frame smaller: its full size is enough for a reduced screen copy.
+    const Massstab bildschirm = Massstab::Zeichnung(s);
+    BildLaden(s, bild, lead,
+              BildschirmGroesse(s, ziel, bildschirm.Twips(rahmen.Breite), bildschirm.Twips(rahmen.Höhe)));
     if (!lead.HatBild()) return;
 
     // The fit works on a copy: the document's frame keeps its size.

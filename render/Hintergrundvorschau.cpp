@@ -46,7 +46,7 @@ void ZeichneHintergrundVorschau(AppState& s, Canvas& box, const ClassEtikett& et
             ClassBild bild;
             bild.File = datei;
             Lead& lead = BildwerkVon(s).Lead;
-            BildLaden(s, bild, lead);
+            BildLaden(s, bild, lead, BildschirmGroesse(s, box, breite, hoehe));
             if (lead.HatBild()) lead.Render(box, QRectF(0, 0, breite, hoehe));
         }
     }

@@ -3,6 +3,7 @@
 #include "render/Lead.h"
 
 #include "core/runtime/TextDatei.h"
+#include "render/Farbkorrektur.h"
 
 #include <Magick++.h>
 // The library's deprecated pixel macro of this name would hide the control's operation.
@@ -62,6 +63,7 @@ void PruefeWachstum(double breite, double hoehe, qint64 grenze) {
 struct Lead::Daten {
     std::optional<Magick::Image> magick; // the working form while corrections run
     mutable QImage bitmap;               // the painted form; null while `magick` is newer
+    QSize vollgroesse;                   // the file's size behind a reduced bitmap
     // The last reductions for Render, newest first: the page's control paints several pictures
     // in turn (background, frames), each at its own size.
     struct Reduktion {
@@ -74,6 +76,7 @@ struct Lead::Daten {
 
     Magick::Image& Arbeitsbild() {
         if (!magick) {
+            MagickStarten();
             if (bitmap.isNull()) throw LeadFehler(QStringLiteral("Es ist kein Bild geladen."));
             const QImage q = bitmap.convertToFormat(QImage::Format_ARGB32);
             Magick::Image m(static_cast<size_t>(q.width()), static_cast<size_t>(q.height()), "BGRA",
@@ -109,9 +112,7 @@ struct Lead::Daten {
     }
 };
 
-Lead::Lead() : d(std::make_unique<Daten>()) {
-    MagickStarten();
-}
+Lead::Lead() : d(std::make_unique<Daten>()) {}
 Lead::~Lead() = default;
 
 bool Lead::HatBild() const {
@@ -125,6 +126,7 @@ void Lead::Load(const QString& datei) {
     const QByteArray& bytes = *gelesen;
     if (bytes.isEmpty()) throw LeadFehler(QStringLiteral("Die Bilddatei \"%1\" ist leer.").arg(datei));
 
+    MagickStarten();
     const Magick::Blob blob(bytes.constData(), static_cast<size_t>(bytes.size()));
     // Only the header first: the size decides whether the picture fits the memory budget.
     // Formats that carry no signature (WMF without its header) are named by the file's suffix.
@@ -201,11 +203,36 @@ void Lead::Load(const QString& datei) {
     SeiteZuruecksetzen(bild);
     d->magick = std::move(bild);
     d->bitmap = QImage();
+    d->vollgroesse = QSize();
 }
 
-void Lead::SetzeBitmap(const QImage& bild) {
+bool Lead::LadeVerkleinert(const QString& datei, QSize geraet) {
+    if (geraet.width() < 1 || geraet.height() < 1) return false;
+    QImageReader leser(datei);
+    if (leser.format() != "jpeg") return false;
+    const QSize voll = leser.size();
+    if (!voll.isValid() || static_cast<qint64>(voll.width()) * voll.height() > Bildpunktgrenze) return false;
+    // The decoder's own reductions; the first that stays above twice the device size.
+    QSize klein;
+    for (const int teiler : {8, 4, 2}) {
+        const QSize s((voll.width() + teiler - 1) / teiler, (voll.height() + teiler - 1) / teiler);
+        if (s.width() > 2 * geraet.width() && s.height() > 2 * geraet.height()) {
+            klein = s;
+            break;
+        }
+    }
+    if (!klein.isValid()) return false;
+    leser.setScaledSize(klein);
+    QImage q = leser.read();
+    if (q.isNull()) return false; // a damaged file: the full load reports it
+    SetzeBitmap(q, voll);
+    return true;
+}
+
+void Lead::SetzeBitmap(const QImage& bild, QSize vollgroesse) {
     d->magick.reset();
     d->bitmap = bild.format() == QImage::Format_ARGB32 ? bild : bild.convertToFormat(QImage::Format_ARGB32);
+    d->vollgroesse = vollgroesse;
 }
 
 void Lead::Leeren(int breite, int hoehe) {
@@ -218,6 +245,7 @@ void Lead::Rotate(int hundertstelGrad, bool vergroessern, QRgb fuellfarbe) {
     const int winkel = hundertstelGrad % 36000;
     if (winkel == 0 || !HatBild()) return;
     Magick::Image& m = d->Arbeitsbild();
+    d->vollgroesse = QSize(); // the turned picture's size is the bitmap's own
     const size_t w = m.columns(), h = m.rows();
     const double bogen = winkel / 100.0 * M_PI / 180.0;
     if (vergroessern)
@@ -235,37 +263,28 @@ void Lead::Rotate(int hundertstelGrad, bool vergroessern, QRgb fuellfarbe) {
 }
 
 void Lead::Intensity(int wert) {
-    wert = std::clamp(wert, -1000, 1000);
+    wert = Begrenzt({wert, 0, 0}).Helligkeit;
     if (wert == 0 || !HatBild()) return;
     d->Arbeitsbild().brightnessContrast(wert / 10.0, 0.0);
 }
 
 void Lead::Contrast(int wert) {
-    // At +-100 % the library's slope runs to infinity or zero; 99 % is already all or nothing.
-    wert = std::clamp(wert, -990, 990);
+    wert = Begrenzt({0, wert, 0}).Kontrast;
     if (wert == 0 || !HatBild()) return;
     d->Arbeitsbild().brightnessContrast(0.0, wert / 10.0);
 }
 
 void Lead::Saturation(int wert) {
-    wert = std::clamp(wert, -1000, 1000);
-    if (wert == 0 || !HatBild()) return;
-    // Each colour moves away from (or towards) the pixel's grey of the same brightness: -1000 is
-    // grey, 1000 twice the colour. Done here rather than by the library's HSL round trip, which
-    // takes most of the time a large photograph needs for its corrections.
+    Farbkorrektur({0, 0, wert});
+}
+
+void Lead::Farbkorrektur(Farbwerte werte) {
+    werte = Begrenzt(werte);
+    if (werte.Neutral() || !HatBild()) return;
+    // On the 8-bit pixels, with the levels the library's two curves give at 16 bits: its own steps
+    // would take three passes and a fresh pixel cache for each on a photograph of many megapixels.
     QImage q = d->Pixelbild();
-    const double faktor = 1.0 + wert / 1000.0;
-    auto kanal = [faktor](double c, double grau) {
-        return static_cast<int>(std::clamp(grau + (c - grau) * faktor, 0.0, 255.0) + 0.5);
-    };
-    for (int y = 0; y < q.height(); ++y) {
-        auto* zeile = reinterpret_cast<QRgb*>(q.scanLine(y));
-        for (int x = 0; x < q.width(); ++x) {
-            const QRgb p = zeile[x];
-            const double grau = 0.299 * qRed(p) + 0.587 * qGreen(p) + 0.114 * qBlue(p);
-            zeile[x] = qRgb(kanal(qRed(p), grau), kanal(qGreen(p), grau), kanal(qBlue(p), grau));
-        }
-    }
+    zp::Farbkorrektur(q, werte);
     d->bitmap = std::move(q);
 }
 
@@ -347,6 +366,7 @@ void Lead::Shear(int grad, bool horizontal, QRgb fuellfarbe) {
     grad = std::clamp(grad, -45, 45);
     if (grad == 0 || !HatBild()) return;
     Magick::Image& m = d->Arbeitsbild();
+    d->vollgroesse = QSize();
     const double schraeg = std::abs(std::tan(grad * M_PI / 180.0));
     if (horizontal)
         PruefeWachstum(m.columns() + m.rows() * schraeg, m.rows(), Bildpunktgrenze);
@@ -370,12 +390,18 @@ void Lead::Grayscale() {
     d->Arbeitsbild().grayscale(MagickCore::Rec601LumaPixelIntensityMethod);
 }
 
+QSize Lead::Vollgroesse() const {
+    return d->vollgroesse;
+}
+
 int Lead::BitmapWidth() const {
+    if (d->vollgroesse.isValid()) return d->vollgroesse.width();
     if (d->magick) return static_cast<int>(d->magick->columns());
     return d->bitmap.width();
 }
 
 int Lead::BitmapHeight() const {
+    if (d->vollgroesse.isValid()) return d->vollgroesse.height();
     if (d->magick) return static_cast<int>(d->magick->rows());
     return d->bitmap.height();
 }
@@ -415,6 +441,7 @@ bool Lead::SaveBmp(const QString& datei, QString* fehler) const {
         if (fehler) *fehler = QStringLiteral("Es ist kein Bild zum Speichern vorhanden.");
         return false;
     }
+    MagickStarten();
     Magick::Blob blob;
     try {
         const QImage q = bild.convertToFormat(QImage::Format_ARGB32);

@@ -12,6 +12,7 @@
 // Failures (unreadable file, not a picture, too large) throw LeadFehler with a German text.
 
 #include "compose/canvas/canvas.h"
+#include "render/Farbkorrektur.h"
 
 #include <QImage>
 #include <QRectF>
@@ -46,8 +47,14 @@ public:
     // Reads the first frame of a BMP, JPEG, PNG, PCX or WMF file. A picture with transparency is
     // laid on white. On failure the control keeps its former bitmap.
     void Load(const QString& datei);
-    // Takes a finished bitmap (from the picture cache or a drawing).
-    void SetzeBitmap(const QImage& bild);
+    // For the screen only: a JPEG more than twice as large as `geraet` (device pixels) in both
+    // directions is decoded reduced, by 1/2, 1/4 or 1/8, to the smallest size still above twice
+    // `geraet`. False, with the control unchanged, when the file is no such picture; the full
+    // Load() then decides. BitmapWidth() and BitmapHeight() keep telling the picture's own size.
+    bool LadeVerkleinert(const QString& datei, QSize geraet);
+    // Takes a finished bitmap (from the picture cache or a drawing); `vollgroesse` is the size of
+    // the picture a reduced bitmap stands for.
+    void SetzeBitmap(const QImage& bild, QSize vollgroesse = {});
     // Makes an empty white bitmap of the given size (the export surface before the composition).
     void Leeren(int breite, int hoehe);
     [[nodiscard]] bool HatBild() const;
@@ -56,6 +63,9 @@ public:
     void Intensity(int wert);
     void Contrast(int wert);
     void Saturation(int wert);
+    // Intensity, Contrast and Saturation one after the other, in one pass over the pixels, with the
+    // very levels of the three single steps.
+    void Farbkorrektur(Farbwerte werte);
     void Hue(int grad);
     void Sharpen(int wert);
     // Noise of up to +-range/2 tenths of a percent of full scale; channel 0 gives every colour the
@@ -67,8 +77,11 @@ public:
     void Invert();
     void Grayscale();
 
+    // The picture's size: that of the bitmap, or of the file a reduced bitmap was decoded from.
     [[nodiscard]] int BitmapWidth() const;
     [[nodiscard]] int BitmapHeight() const;
+    // The size of the file's picture behind a reduced bitmap; invalid when the bitmap is full size.
+    [[nodiscard]] QSize Vollgroesse() const;
     // The finished bitmap (ARGB32, opaque); null when nothing is loaded.
     [[nodiscard]] QImage Bitmap() const;
 

@@ -277,13 +277,7 @@ const Zeichensatz& PainterCanvas::AktuelleSchrift(bool geraeteschrift) {
 }
 
 int PainterCanvas::Textbreite(const Zeichensatz& zs, const QString& text) {
-    if (text.isEmpty()) return 0;
-    const QPair<int, QString> schluessel(zs.nummer, text);
-    if (const auto it = m_breiten.constFind(schluessel); it != m_breiten.constEnd()) return *it;
-    if (m_breiten.size() >= 4096) m_breiten.clear();
-    const int breite = QFontMetrics(zs.font).horizontalAdvance(text);
-    m_breiten.insert(schluessel, breite);
-    return breite;
+    return m_saetze.Breite(zs, text);
 }
 
 void PainterCanvas::Text(int x, int y, const QString& text, const Zeichensatz& zs, double drehung) {
@@ -301,23 +295,6 @@ void PainterCanvas::Text(int x, int y, const QString& text, const Zeichensatz& z
     Ausgeben(std::move(z));
 }
 
-const QTextLayout& PainterCanvas::Satz(const Zeichensatz& zs, const QString& text) {
-    // Shaped once per font and string: calendars and effects draw the same strings often.
-    const QPair<int, QString> schluessel(zs.nummer, text);
-    auto it = m_saetze.find(schluessel);
-    if (it == m_saetze.end()) {
-        if (m_saetze.size() >= 2048) m_saetze.clear();
-        auto satz = std::make_shared<QTextLayout>(text, zs.font);
-        satz->setCacheEnabled(true);
-        satz->beginLayout();
-        QTextLine zeile = satz->createLine();
-        zeile.setPosition(QPointF(0, 0));
-        satz->endLayout();
-        it = m_saetze.insert(schluessel, std::move(satz));
-    }
-    return **it;
-}
-
 void PainterCanvas::ZeichneText(QPainter& p, const Zeichnung& z) {
     const Zeichensatz& zs = z.schrift;
     const QTransform alt = p.transform();
@@ -330,7 +307,7 @@ void PainterCanvas::ZeichneText(QPainter& p, const Zeichnung& z) {
     if (zs.font.underline() || zs.font.strikeOut())
         p.drawText(0, zs.ascent, z.text);
     else
-        Satz(zs, z.text).draw(&p, QPointF(0, 0));
+        m_saetze.Satz(zs, z.text).draw(&p, QPointF(0, 0));
     p.setTransform(alt);
 }
 

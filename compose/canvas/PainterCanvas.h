@@ -5,13 +5,12 @@
 
 #include "compose/canvas/GdiObjekte.h"
 #include "compose/canvas/Stufenplan.h"
+#include "compose/canvas/Textsatzcache.h"
 #include "compose/canvas/Zeichnung.h"
 #include "compose/canvas/canvas.h"
 
 #include <QFont>
-#include <QHash>
 #include <QPainter>
-#include <QTextLayout>
 #include <deque>
 #include <memory>
 #include <optional>
@@ -97,8 +96,6 @@ private:
     const Zeichensatz& Schriftsatz(const LogFont& lf, int extra);
     [[nodiscard]] int Textbreite(const Zeichensatz& zs, const QString& text);
     void Text(int x, int y, const QString& text, const Zeichensatz& zs, double drehung);
-    // The string laid out in the font, from the cache.
-    const QTextLayout& Satz(const Zeichensatz& zs, const QString& text);
     // The turn of the selected device font, degrees counter-clockwise.
     [[nodiscard]] double Drehung() const;
 
@@ -139,8 +136,7 @@ private:
     };
     std::deque<Schrifteintrag> m_schriften;
     int m_naechsteSchrift = 1;
-    QHash<QPair<int, QString>, int> m_breiten;
-    QHash<QPair<int, QString>, std::shared_ptr<QTextLayout>> m_saetze;
+    Textsatzcache m_saetze;
 };
 
 } // namespace zp
