@@ -2,6 +2,7 @@
 
 #include "calendar/data/Kalenderdateien.h"
 #include "calendar/data/Kalendertypen.h"
+#include "core/Sitzung.h"
 #include "core/Start.h"
 #include "core/state/AppState.h"
 #include "persist/Datensaetze.h"
@@ -12,7 +13,8 @@
 namespace zp {
 
 bool BeendenDateienSchreiben(AppState& s, Oberflaeche& ui) {
-    bool ok = true;
+    // First, while Datendatei and AktuelleDatei still name the user's files.
+    bool ok = SitzungSichern(s, ui);
     if (s.IstVisitenkarte != 0) ok = SpeichereDatensaetze(s, ui) && ok;
     ok = SaveSettings(s, ui) && ok;
     if (s.IstKalender != 0) {

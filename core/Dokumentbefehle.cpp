@@ -2,10 +2,12 @@
 
 #include "calendar/data/Kalendertypen.h"
 #include "core/Dokumentdienste.h"
+#include "core/Seitennavigation.h"
 #include "core/state/AppState.h"
 #include "core/state/Oberflaeche.h"
 
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QStringList>
 
 namespace zp {
@@ -75,6 +77,13 @@ QString QtDateifilter(const QString& filter) {
     return qt.join(QStringLiteral(";;"));
 }
 
+QString MitFilterendung(const QString& name, const QString& filterEintrag) {
+    if (name.isEmpty() || !QFileInfo(name).suffix().isEmpty()) return name;
+    static const QRegularExpression muster(QStringLiteral("\\*\\.([A-Za-z0-9]+)"));
+    const QRegularExpressionMatch m = muster.match(filterEintrag);
+    return m.hasMatch() ? name + u'.' + m.captured(1) : name;
+}
+
 QString StatusDateitext(const QString& pfad) {
     return QStringLiteral("Aktuelle Datei: ") + pfad;
 }
@@ -98,41 +107,49 @@ bool BefehlOeffnen(AppState& s, Oberflaeche& ui, const Dokumentdienste& d) {
     const QString name =
         ui.DateiWaehlen(QStringLiteral("Öffnen"), Dateifilter(s, Dateidialog::Oeffnen), false);
     if (name.isEmpty()) return false;
+    if (!QFileInfo::exists(name)) {
+        ui.Meldung(QStringLiteral("Die Datei wurde nicht gefunden."), QStringLiteral("Öffnen"), name);
+        ui.Neuzeichnen();
+        return true;
+    }
+    // A file that is rejected leaves both current files and the status bar as they were, so that
+    // the next Save never goes over it.
+    const QString designVorher = s.AktuelleDatei;
+    const QString datenVorher = s.Datendatei;
+    const QString statusVorher = s.IstKalender != 0 ? s.Datendatei : s.AktuelleDatei;
+    const auto laden = [&](QString& ziel, const Dienst& dienst) {
+        if (!Vorhanden(dienst, ui, name)) return false;
+        ziel = name;
+        return DienstAusfuehren(dienst, s, ui);
+    };
     s.LadeSperre = 255;
-    if (QFileInfo::exists(name)) {
-        if (s.IstKalender == 0) {
-            // Old label formats go the same way: the loader decides by the file.
-            if (!Vorhanden(d.LoadDesign, ui, name)) {
-                s.LadeSperre = 0;
-                return false;
-            }
-            s.AktuelleDatei = name;
-            DienstAusfuehren(d.LoadDesign, s, ui);
-            ui.StatusDatei(s.AktuelleDatei);
-        } else {
-            const QString endung = Endung(name).toLower();
-            if (endung == QLatin1String("zpk")) {
-                if (!Vorhanden(d.LoadDesign, ui, name)) {
-                    s.LadeSperre = 0;
-                    return false;
-                }
-                s.AktuelleDatei = name;
-                DienstAusfuehren(d.LoadDesign, s, ui);
+    bool geladen = false;
+    if (s.IstKalender == 0) {
+        // Old label formats go the same way: the loader decides by the file.
+        geladen = laden(s.AktuelleDatei, d.LoadDesign);
+    } else {
+        const QString endung = Endung(name).toLower();
+        if (endung == QLatin1String("zpk")) {
+            geladen = laden(s.AktuelleDatei, d.LoadDesign);
+            if (geladen) {
+                // The design may bring another type: the page comes back into its range.
+                Seitenbereich(s);
                 ui.SeitentitelAktualisieren();
-            } else if (endung == QLatin1String("zpd")) {
-                s.Datendatei = name;
-                DienstAusfuehren(d.LadeDaten, s, ui);
-                ui.StatusDatei(s.Datendatei);
-            } else if (endung == QLatin1String("kal")) {
-                s.Datendatei = name;
-                DienstAusfuehren(d.ImportKal, s, ui);
-                ui.StatusDatei(s.Datendatei);
             }
+        } else if (endung == QLatin1String("zpd")) {
+            geladen = laden(s.Datendatei, d.LadeDaten);
+        } else if (endung == QLatin1String("kal")) {
+            geladen = laden(s.Datendatei, d.ImportKal);
         }
+    }
+    if (geladen) {
+        ui.StatusDatei(s.IstKalender != 0 ? s.Datendatei : s.AktuelleDatei);
         ui.PanelAktualisieren();
         ui.AuswahlAktualisieren();
     } else {
-        ui.Meldung(QStringLiteral("Die Datei wurde nicht gefunden."), QStringLiteral("Öffnen"), name);
+        s.AktuelleDatei = designVorher;
+        s.Datendatei = datenVorher;
+        ui.StatusDatei(statusVorher);
     }
     s.LadeSperre = 0;
     ui.Neuzeichnen();
@@ -164,6 +181,8 @@ bool BefehlSpeichernUnter(AppState& s, Oberflaeche& ui, const Dokumentdienste& d
 }
 
 void Beenden(AppState& s, Oberflaeche& ui, const Dokumentdienste& d) {
+    // First, while Datendatei and AktuelleDatei still name the user's files.
+    DienstAusfuehren(d.SitzungSichern, s, ui);
     if (s.IstVisitenkarte != 0) DienstAusfuehren(d.SpeichereDatensaetze, s, ui);
     DienstAusfuehren(d.SaveSettings, s, ui);
     if (s.IstKalender != 0) {
@@ -183,7 +202,10 @@ void GalerieLaden(AppState& s, Oberflaeche& ui, const Dokumentdienste& d, int ze
     s.AktuelleDatei =
         s.Programmpfad + QStringLiteral("daten/design") + QString::number(zeile + 1) + QStringLiteral(".zpv");
     if (QFileInfo::exists(s.AktuelleDatei)) {
+        // Loaded as a template: the card's layout comes, the texts in the panel stay.
+        s.Ladevorgabe = s.AktuelleDatei;
         LadeDesignInsFenster(s, ui, d);
+        s.Ladevorgabe.clear();
     }
     ui.Neuzeichnen();
     s.AktuelleDatei = gemerkt;

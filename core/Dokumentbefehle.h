@@ -18,6 +18,10 @@ enum class Dateidialog { Oeffnen, SpeichernUnter, SpeichernUnter2 };
 // The same in the form of Qt's file dialog: "Name (*.x);;Name (*.y)".
 [[nodiscard]] QString QtDateifilter(const QString& filter);
 
+// A name typed without an ending takes the ending of the chosen filter entry, "Name (*.x)" or
+// "*.x"; a name with an ending, or an entry without a pattern, leaves it as it is.
+[[nodiscard]] QString MitFilterendung(const QString& name, const QString& filterEintrag);
+
 // "Aktuelle Datei: " and the path, as the status bar shows it.
 [[nodiscard]] QString StatusDateitext(const QString& pfad);
 

@@ -21,6 +21,7 @@ using Dienst = std::function<bool(AppState&, Oberflaeche&)>;
 // print run repairs what is out of range.
 struct Druckdialogwerte {
     QString Drucker;        // device name from Combo1; "" for the default
+    QString PdfDatei;       // the file of "PDF-Datei", asked before anything else; "" to ask then
     QString Kopien;         // Text1
     QString TextDruckStart; // first and last calendar page
     QString TextDruckEnde;
@@ -46,6 +47,7 @@ struct Dokumentdienste {
     Dienst SaveKalenderIni;      // kalender.ini
     Dienst SaveKartenformate;    // etikett.ini
     Dienst SpeichereDatensaetze; // daten.dat
+    Dienst SitzungSichern;       // the last session, for the next start
 
     Dienst CommandBerechnen; // holidays of Kalenderjahr into the day tables
     Dienst KalenderNeu;      // the calendar's New: asks, then empties the day data

@@ -9,6 +9,7 @@
 #include "compose/Seitenmaler.h"
 #include "compose/ZeichneSeite.h"
 #include "core/Datensatzbefehle.h"
+#include "core/Sitzung.h"
 #include "core/runtime/Basic.h"
 #include "core/state/AppState.h"
 #include "core/state/Oberflaeche.h"
@@ -23,6 +24,7 @@
 #include "persist/Einstellungen.h"
 #include "persist/Katalogdateien.h"
 
+#include <QFile>
 #include <QImage>
 #include <algorithm>
 #include <memory>
@@ -52,17 +54,38 @@ Druckauftrag AlsAuftrag(const Druckdialogwerte& w) {
     return a;
 }
 
+bool DruckeAuf(AppState& s, Oberflaeche& ui, const Druckdialogwerte& w, Druckercanvas& ausgabe,
+               const std::function<bool(int, int)>& fortschritt);
+
 bool Drucken(AppState& s, Oberflaeche& ui, const Druckdialogwerte& w,
              const std::function<bool(int, int)>& fortschritt) {
     QString pdf;
     if (w.Drucker == kPdfDatei) {
-        pdf = ui.DateiWaehlen(QStringLiteral("In PDF-Datei drucken"),
-                              QStringLiteral("PDF-Datei (*.pdf)|*.pdf"), true);
+        pdf = w.PdfDatei.isEmpty() ? PdfDateiWaehlen(ui) : w.PdfDatei;
         if (pdf.isEmpty()) return false;
-        if (!pdf.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive)) pdf += QStringLiteral(".pdf");
     }
     s.ErstesEtikett = std::max(1.0, basic::Val(w.TextStart));
-    Druckercanvas ausgabe(w.Drucker, pdf, s.AktuelleSeite);
+    // The pages go to a draft beside the file; only a whole job takes the user's name, so that a
+    // cancelled run leaves no half file and an older file of that name stays.
+    const QString entwurf = pdf.isEmpty() ? QString() : pdf + QStringLiteral(".teil");
+    bool gedruckt = false;
+    {
+        Druckercanvas ausgabe(w.Drucker, entwurf, s.AktuelleSeite);
+        gedruckt = DruckeAuf(s, ui, w, ausgabe, fortschritt);
+    }
+    if (entwurf.isEmpty()) return gedruckt;
+    if (gedruckt) {
+        QFile::remove(pdf);
+        if (QFile::rename(entwurf, pdf)) return true;
+        ui.Meldung(QStringLiteral("Die PDF-Datei konnte nicht geschrieben werden."),
+                   QStringLiteral("Drucken"), pdf);
+    }
+    QFile::remove(entwurf);
+    return false;
+}
+
+bool DruckeAuf(AppState& s, Oberflaeche& ui, const Druckdialogwerte& w, Druckercanvas& ausgabe,
+               const std::function<bool(int, int)>& fortschritt) {
     Druckhilfen hilfen;
     hilfen.Komposition = [](AppState& st, Canvas& c) {
         Zeichenziele ziele;
@@ -74,6 +97,14 @@ bool Drucken(AppState& s, Oberflaeche& ui, const Druckdialogwerte& w,
 }
 
 } // namespace
+
+QString PdfDateiWaehlen(Oberflaeche& ui) {
+    QString pdf = ui.DateiWaehlen(QStringLiteral("In PDF-Datei drucken"),
+                                  QStringLiteral("PDF-Datei (*.pdf)|*.pdf"), true);
+    if (!pdf.isEmpty() && !pdf.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive))
+        pdf += QStringLiteral(".pdf");
+    return pdf;
+}
 
 Dokumentdienste ProgrammDienste() {
     Dokumentdienste d;
@@ -93,7 +124,12 @@ Dokumentdienste ProgrammDienste() {
             Zeichenziele ziele;
             return ExportBild(st, ziele, Komponieren);
         };
-        return !mnuWord(s, ui, bild, QString(), true).isEmpty();
+        // Asked where, with a new name in the documents folder as the suggestion.
+        const QString ziel =
+            ui.SpeicherDateiWaehlen(QStringLiteral("in Word exportieren"),
+                                    QStringLiteral("Textdokument (*.odt)|*.odt"), NeuerDokumentpfad());
+        if (ziel.isEmpty()) return false;
+        return !mnuWord(s, ui, bild, ziel, true).isEmpty();
     };
     d.Drucken = Drucken;
     d.LadeDaten = [](AppState& s, Oberflaeche& ui) { return LadeDaten(s, ui) == Ladeergebnis::Geladen; };
@@ -106,6 +142,7 @@ Dokumentdienste ProgrammDienste() {
     d.SaveKartenformate = [](AppState& s, Oberflaeche& ui) { return SaveKartenformate(s, ui); };
     d.LadeDatensaetze = [](AppState& s, Oberflaeche& ui) { return LadeDatensaetze(s, ui); };
     d.SpeichereDatensaetze = [](AppState& s, Oberflaeche& ui) { return SpeichereDatensaetze(s, ui); };
+    d.SitzungSichern = [](AppState& s, Oberflaeche& ui) { return SitzungSichern(s, ui); };
     d.CommandBerechnen = [](AppState& s, Oberflaeche&) {
         CommandBerechnen(s);
         return true;

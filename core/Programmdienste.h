@@ -5,4 +5,7 @@
 
 namespace zp {
 [[nodiscard]] Dokumentdienste ProgrammDienste();
+// The file for the printer "PDF-Datei", asked through the window; ".pdf" is added when missing.
+// Empty when the user cancelled.
+[[nodiscard]] QString PdfDateiWaehlen(Oberflaeche& ui);
 } // namespace zp

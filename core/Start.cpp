@@ -2,6 +2,7 @@
 
 #include "calendar/data/Kalendertypen.h"
 #include "core/Datensatzbefehle.h"
+#include "core/Sitzung.h"
 #include "core/runtime/Basic.h"
 #include "core/state/AppState.h"
 #include "core/state/Massstab.h"
@@ -12,7 +13,9 @@
 #include "persist/Einstellungen.h"
 #include "persist/Katalogdateien.h"
 
+#include <QFont>
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QGuiApplication>
 #include <QScreen>
 
@@ -80,6 +83,7 @@ void Main(AppState& s, const QString& programmpfad, Oberflaeche& ui) {
     s.Programmpfad = programmpfad.endsWith(u'/') ? programmpfad : programmpfad + u'/';
     s.Hilfedatei = s.Programmpfad + QStringLiteral("deutsch.hlp");
     s.Farbvorgabe = -1;
+    s.Seriennummer = 1; // the running number until a print sets it
     s.Datendatei = s.Programmpfad + QStringLiteral("neu.zpd");
     s.LadeSperre = 255;
 
@@ -193,12 +197,29 @@ void SetzeEditionsflags(AppState& s) {
         s.IstCDHuelle = -1;
 }
 
+QStringList Schriftfamilien() {
+    // Qt names a family that several foundries offer "C059 [UKWN]"; the user and the design files
+    // know it as "C059". Arial is what the designs name most: fontconfig gives it a metric twin.
+    QStringList familien;
+    for (QString f : QFontDatabase::families()) {
+        const qsizetype klammer = f.indexOf(QStringLiteral(" ["));
+        if (klammer > 0 && f.endsWith(u']')) f.truncate(klammer);
+        if (!familien.contains(f)) familien << f;
+    }
+    if (!familien.contains(QStringLiteral("Arial"))) familien << QStringLiteral("Arial");
+    familien.sort(Qt::CaseInsensitive);
+    return familien;
+}
+
 void LeseSchriftenliste(AppState& s) {
-    const QStringList familien = QFontDatabase::families();
+    const QStringList familien = Schriftfamilien();
     const int anzahl = std::min<int>(familien.size(), s.Schriftenliste.Obergrenze() - 1);
     for (int i = 0; i < anzahl; ++i) {
         s.Schriftenliste(i + 1) = familien[i];
-        s.SchriftSkalierbar(i + 1) = QFontDatabase::isScalable(familien[i]) ? basic::Wahr : basic::Falsch;
+        // A family that fontconfig stands in for (Arial) is as scalable as its stand-in.
+        const bool skalierbar = QFontDatabase::isScalable(familien[i]) ||
+                                QFontDatabase::isScalable(QFontInfo(QFont(familien[i])).family());
+        s.SchriftSkalierbar(i + 1) = skalierbar ? basic::Wahr : basic::Falsch;
     }
     s.Schriftenliste(anzahl + 1) = QStringLiteral("-1");
 }
@@ -220,6 +241,8 @@ bool LadeStartzustand(AppState& s, Oberflaeche& ui) {
         s.Panel.PictureFeiertagSchrift = s.Panel.PictureFeiertagBack = 0xFFFFFF;
         s.Datendatei = s.Programmpfad + QStringLiteral("neu.zpd");
         ui.StatusDatei(s.Datendatei);
+        // The day data of the last session, unless switched off; the design comes with the type.
+        SitzungWiederherstellen(s, ui);
         LoadKalenderIni(s, ui);
         // The month views cover the calendar year; a date outside it moves in first.
         const int jahr = std::clamp(static_cast<int>(s.Kalenderjahr), 100, 9999);
@@ -248,6 +271,8 @@ bool LadeStartzustand(AppState& s, Oberflaeche& ui) {
     else
         s.Ladevorgabe = QStringLiteral("neu");
     const bool geladen = LoadDesign(s, ui);
+    // The other editions bring back the document of the last session over the start document.
+    if (s.IstKalender == 0) SitzungWiederherstellen(s, ui);
     // Last: the record on view fills the panel boxes 21 to 30 and the texts that show them.
     if (s.IstKalender == 0) ZeigeDatensatz(s, ui);
     return geladen;

@@ -3,6 +3,7 @@
 // handler does to the state before the first paint.
 
 #include <QString>
+#include <QStringList>
 
 namespace zp {
 
@@ -22,6 +23,10 @@ void SetzeEditionsflags(AppState& s);
 // start document (`LoadDesign`). Returns false when the start document could not be loaded
 // (the message has been given); the built-in document then stays.
 bool LadeStartzustand(AppState& s, Oberflaeche& ui);
+
+// The installed font families by the names users know ("C059", not "C059 [UKWN]"), with "Arial",
+// sorted.
+[[nodiscard]] QStringList Schriftfamilien();
 
 // Fills `Schriftenliste` and `SchriftSkalierbar` from the installed font families, with the end
 // mark "-1" after the last one.

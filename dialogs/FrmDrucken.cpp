@@ -1,10 +1,12 @@
 #include "dialogs/FrmDrucken.h"
 
+#include "core/Programmdienste.h"
 #include "core/Seitennavigation.h"
 #include "core/runtime/Basic.h"
 #include "core/state/AppState.h"
 #include "core/state/Editionen.h"
 #include "core/state/Oberflaeche.h"
+#include "output/Druckerliste.h"
 
 #include <QApplication>
 #include <QButtonGroup>
@@ -22,12 +24,10 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <memory>
 
 namespace zp {
-
-namespace {
-const char* const PdfDrucker = "PDF-Datei";
-}
 
 QLineEdit* FrmDrucken::Feld(const char* name, const QString& text) {
     auto* e = new QLineEdit(text, this);
@@ -47,7 +47,7 @@ FrmDrucken::FrmDrucken(AppState& state, Oberflaeche& ui, const Dokumentdienste& 
     auto* druckerZeile = new QHBoxLayout;
     m_drucker = new QComboBox(this);
     m_drucker->setObjectName(QStringLiteral("Combo1"));
-    m_drucker->addItem(QString::fromLatin1(PdfDrucker));
+    m_drucker->addItem(kPdfDatei);
     m_drucker->addItems(QPrinterInfo::availablePrinterNames());
     const QString aktuell = s.Druckername.isEmpty() ? QPrinterInfo::defaultPrinterName() : s.Druckername;
     const int index = m_drucker->findText(aktuell);
@@ -161,6 +161,11 @@ FrmDrucken::FrmDrucken(AppState& state, Oberflaeche& ui, const Dokumentdienste& 
     m_druckEnde->setEnabled(kalender && typ != 2 && typ != 3);
     m_prozent->setEnabled(kalender);
     m_hilfsmarken->setVisible(e == Edition::Visitenkarte || etikett || (kalender && typ == 3));
+    // The first label and the running number belong to sheets of pieces, which a calendar or a
+    // letterhead doesn't print.
+    const bool stuecke = !kalender && e != Edition::Briefkopf;
+    f->setRowVisible(m_start, stuecke);
+    f->setRowVisible(m_seriennummer, stuecke);
 
     // Changes are written at once.
     connect(m_abgleichX, &QLineEdit::textEdited, this,
@@ -175,8 +180,7 @@ FrmDrucken::FrmDrucken(AppState& state, Oberflaeche& ui, const Dokumentdienste& 
             [this](const QString& name) { s.Druckername = name; });
     connect(einstellen, &QPushButton::clicked, this, [this] {
         QPrinter drucker;
-        if (m_drucker->currentText() != QLatin1String(PdfDrucker))
-            drucker.setPrinterName(m_drucker->currentText());
+        if (m_drucker->currentText() != kPdfDatei) drucker.setPrinterName(m_drucker->currentText());
         QPageSetupDialog einrichten(&drucker, this);
         einrichten.exec();
     });
@@ -210,25 +214,52 @@ Druckdialogwerte FrmDrucken::Werte() const {
 
 void FrmDrucken::CommandDrucken() {
     if (!m_d.Drucken) return;
-    QProgressDialog fortschritt(QStringLiteral("Drucken..."), QStringLiteral("Abbrechen"), 0, 0, this);
-    fortschritt.setWindowTitle(QStringLiteral("Drucken"));
-    fortschritt.setWindowModality(Qt::WindowModal);
-    fortschritt.setMinimumDuration(300);
+    Druckdialogwerte werte = Werte();
+    // The file first: nothing else may stand over the file dialog, and a cancel there leaves the
+    // print dialog open as it was.
+    if (werte.Drucker == kPdfDatei) {
+        werte.PdfDatei = PdfDateiWaehlen(m_ui);
+        if (werte.PdfDatei.isEmpty()) return;
+    }
+    // The progress box comes with the first page made, after any question of the print run.
+    std::unique_ptr<QProgressDialog> fortschritt;
+    bool abgebrochen = false;
+    const auto melden = [&](int fertig, int gesamt) {
+        if (!fortschritt) {
+            fortschritt = std::make_unique<QProgressDialog>(QStringLiteral("Die Seiten werden gedruckt..."),
+                                                            QStringLiteral("Abbrechen"), 0, gesamt, this);
+            fortschritt->setObjectName(QStringLiteral("Druckfortschritt"));
+            fortschritt->setWindowTitle(QStringLiteral("Drucken"));
+            fortschritt->setWindowModality(Qt::WindowModal);
+            fortschritt->setMinimumDuration(500);
+            fortschritt->setAutoClose(false);
+            fortschritt->setAutoReset(false);
+        }
+        fortschritt->setMaximum(std::max(gesamt, fertig));
+        fortschritt->setValue(fertig);
+        abgebrochen = fortschritt->wasCanceled();
+        return !abgebrochen;
+    };
     QApplication::setOverrideCursor(Qt::WaitCursor);
+    bool gedruckt = false;
     try {
-        m_d.Drucken(s, m_ui, Werte(), [&fortschritt](int fertig, int gesamt) {
-            fortschritt.setMaximum(gesamt);
-            fortschritt.setValue(fertig);
-            return !fortschritt.wasCanceled();
-        });
+        gedruckt = m_d.Drucken(s, m_ui, werte, melden);
     } catch (const std::exception& e) {
+        fortschritt.reset();
         QApplication::restoreOverrideCursor();
         m_ui.Meldung(QStringLiteral("Der Druck konnte nicht ausgeführt werden."), QStringLiteral("Warnung!"),
                      QString::fromUtf8(e.what()));
         hide();
         return;
     }
+    fortschritt.reset();
     QApplication::restoreOverrideCursor();
+    if (abgebrochen && !gedruckt)
+        m_ui.Meldung(
+            werte.PdfDatei.isEmpty()
+                ? QStringLiteral("Der Druck wurde abgebrochen.")
+                : QStringLiteral("Der Druck wurde abgebrochen. Die PDF-Datei wurde nicht geschrieben."),
+            QStringLiteral("Drucken"), werte.PdfDatei);
     hide();
 }
 

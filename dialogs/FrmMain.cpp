@@ -18,6 +18,8 @@
 #include <QCloseEvent>
 #include <QColorDialog>
 #include <QComboBox>
+#include <QDate>
+#include <QDir>
 #include <QFileDialog>
 #include <QFontDatabase>
 #include <QGuiApplication>
@@ -35,6 +37,7 @@
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <cmath>
@@ -95,6 +98,10 @@ void FrmMain::Laden() {
     if (e == Edition::Kalender) {
         StatusDatei(s.Datendatei);
         MonatsansichtenAufJahr(s, static_cast<int>(s.Kalenderjahr));
+        // The day data of the last session: the boxes show the selected days, the views their marks.
+        TerminAnzeigen(s);
+        FeiertagAnzeigen(s);
+        TagesmarkenAufbauen(s);
         MonatsbildWaehlen(s, 0);
         Seitenbereich(s);
         SeitentitelAktualisieren();
@@ -104,7 +111,7 @@ void FrmMain::Laden() {
         m_comboVariante->addItems({QStringLiteral("Variante 1"), QStringLiteral("Variante 2")});
         m_comboVariante->setCurrentIndex(s.Designvariante == QLatin1String("v2") ? 1 : 0);
         m_comboJahr->clear();
-        for (int j = 1990; j <= 2010; ++j)
+        for (int j = 1990; j <= QDate::currentDate().year() + 10; ++j)
             m_comboJahr->addItem(QString::number(j));
         // A year outside the list stays valid; the box just shows it.
         m_comboJahr->setEditText(QString::number(static_cast<long long>(s.Kalenderjahr)));
@@ -197,7 +204,8 @@ void FrmMain::closeEvent(QCloseEvent* e) {
 
 bool FrmMain::Frage(const QString& text, const QString& titel) {
     QMessageBox box(QMessageBox::Question, titel, text, QMessageBox::Yes | QMessageBox::No, this);
-    box.setDefaultButton(QMessageBox::Yes);
+    // Questions that delete or replace what the user made: a stray Enter keeps it.
+    box.setDefaultButton(QMessageBox::No);
     return box.exec() == QMessageBox::Yes;
 }
 
@@ -207,8 +215,10 @@ void FrmMain::Meldung(const QString& text, const QString& titel, const QString& 
 
 QString FrmMain::DateiWaehlen(const QString& titel, const QString& filter, bool speichern) {
     const QString qt = QtDateifilter(filter);
-    if (speichern) return QFileDialog::getSaveFileName(this, titel, s.Programmpfad, qt);
-    return QFileDialog::getOpenFileName(this, titel, s.Programmpfad, qt);
+    if (!speichern) return QFileDialog::getOpenFileName(this, titel, s.Programmpfad, qt);
+    QString gewaehlt;
+    const QString name = QFileDialog::getSaveFileName(this, titel, s.Programmpfad, qt, &gewaehlt);
+    return MitFilterendung(name, gewaehlt);
 }
 
 std::optional<QColor> FrmMain::FarbeWaehlen(const QColor& start) {
@@ -292,7 +302,14 @@ void FrmMain::AuswahlAktualisieren() {
 }
 
 void FrmMain::StatusDatei(const QString& pfad) {
-    m_status[0]->setText(StatusDateitext(pfad));
+    QLabel* feld = m_status[0];
+    const QString text = StatusDateitext(pfad);
+    // The same file again leaves a note standing; another file ends it.
+    const bool notiz = feld->property("notizAktiv").toBool() && feld->property("datei").toString() == text;
+    feld->setProperty("datei", text);
+    if (notiz) return;
+    feld->setProperty("notizAktiv", false);
+    feld->setText(text);
 }
 
 void FrmMain::SeitentitelAktualisieren() {
@@ -340,11 +357,24 @@ void FrmMain::FokusFeldbox(int i) {
 }
 
 void FrmMain::Statusmeldung(const QString& text) {
-    statusBar()->showMessage(text, 5000);
+    // The file's panel fills the bar, so a note stands in it for a while; then the file again.
+    QLabel* feld = m_status[0];
+    const int notiz = feld->property("notiz").toInt() + 1;
+    feld->setProperty("notiz", notiz);
+    feld->setProperty("notizAktiv", true);
+    feld->setText(text);
+    QTimer::singleShot(10000, feld, [feld, notiz] {
+        if (feld->property("notiz").toInt() != notiz || !feld->property("notizAktiv").toBool()) return;
+        feld->setProperty("notizAktiv", false);
+        feld->setText(feld->property("datei").toString());
+    });
 }
 
 QString FrmMain::SpeicherDateiWaehlen(const QString& titel, const QString& filter, const QString& vorschlag) {
-    return QFileDialog::getSaveFileName(this, titel, s.Programmpfad + vorschlag, QtDateifilter(filter));
+    QString gewaehlt;
+    const QString name = QFileDialog::getSaveFileName(this, titel, QDir(s.Programmpfad).filePath(vorschlag),
+                                                      QtDateifilter(filter), &gewaehlt);
+    return MitFilterendung(name, gewaehlt);
 }
 
 QString FrmMain::QtDateiWaehlen(const QString& titel, const QString& qtFilter) {

@@ -25,6 +25,7 @@ class QSpinBox;
 class QStackedWidget;
 class QToolBar;
 class QToolButton;
+class QUrl;
 
 namespace zp {
 struct AppState;
@@ -56,9 +57,12 @@ public:
     void Statusmeldung(const QString& text) override;
     // A file to open with a filter already in Qt's form.
     virtual QString QtDateiWaehlen(const QString& titel, const QString& qtFilter);
-    // A file to save, with a suggested name.
-    virtual QString SpeicherDateiWaehlen(const QString& titel, const QString& filter,
-                                         const QString& vorschlag);
+    // A file to save, with a suggested name (relative to the program folder, or absolute).
+    QString SpeicherDateiWaehlen(const QString& titel, const QString& filter,
+                                 const QString& vorschlag) override;
+
+    // A web page, a mail or the help file in the desktop's program; false when there is none.
+    virtual bool AdresseOeffnen(const QUrl& adresse);
 
     // The colour dialog: the chosen colour, or nothing when cancelled.
     virtual std::optional<QColor> FarbeWaehlen(const QColor& start);

@@ -90,6 +90,9 @@ void FrmMain::MenuesAnlegen() {
     datei->addSeparator();
     NeueAktion(datei, "mnuFilePageSetup", QStringLiteral("Seite &einrichten..."));
     tasten(NeueAktion(datei, "mnuFilePrint", QStringLiteral("Dru&cken...")), QKeySequence::Print);
+    datei->addSeparator();
+    NeueAktion(datei, "mnuSitzung", QStringLiteral("Letzte Sitzung beim Start wiederherstellen"))
+        ->setCheckable(true);
     // The recent-file entries exist and stay empty: the list passes through the settings untouched.
     for (int i = 0; i < 3; ++i) {
         QAction* a = NeueAktion(datei, "mnuFileMRU", QString());
@@ -333,7 +336,9 @@ QWidget* FrmMain::PanelTermine() {
     auto* v = new QVBoxLayout;
     m_monat1 = Benannt<Monatskalender>(QStringLiteral("MonthView1"));
     v->addWidget(m_monat1);
-    v->addWidget(new QLabel(QStringLiteral("Termin (Umschalt+Klick wählt mehrere Tage):")));
+    auto* hinweis = new QLabel(QStringLiteral("Termin (Umschalt+Klick wählt mehrere Tage):"));
+    hinweis->setWordWrap(true); // the panel keeps its width, without a scroll bar across
+    v->addWidget(hinweis);
     m_textTermin = Benannt<QPlainTextEdit>(QStringLiteral("TextTermin"));
     m_textTermin->setTabChangesFocus(true);
     m_textTermin->setMaximumHeight(70);
@@ -419,7 +424,7 @@ QWidget* FrmMain::PanelMonatsbilder() {
     durchsuchen->setMaximumWidth(30);
     datei->addWidget(m_textbilddatei);
     datei->addWidget(durchsuchen);
-    f->addRow(QStringLiteral("&Bild"), datei);
+    f->addRow(QStringLiteral("Bild"), datei);
     m_textBildbeschreibung = Benannt<QLineEdit>(QStringLiteral("TextBildbeschreibung"));
     f->addRow(QStringLiteral("Bes&chreibung"), m_textBildbeschreibung);
     m_leadKalender = Benannt<QLabel>(QStringLiteral("LeadKalender"));

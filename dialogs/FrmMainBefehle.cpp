@@ -11,6 +11,7 @@
 #include "core/Dokumentbefehle.h"
 #include "core/Importbefehl.h"
 #include "core/Seitennavigation.h"
+#include "core/Sitzung.h"
 #include "core/runtime/Basic.h"
 #include "core/state/Ansicht.h"
 #include "core/state/AppState.h"
@@ -91,6 +92,9 @@ void FrmMain::Verbinden() {
         DienstAusfuehren(m_d.Word, s, *this);
         QApplication::restoreOverrideCursor();
     });
+    connect(Aktion(QStringLiteral("mnuSitzung")), &QAction::toggled, this, [this](bool an) {
+        if (s.LadeSperre == 0) SitzungWiederherstellenSetzen(s, *this, an);
+    });
     bei("mnuFileClose", [this] { close(); });
     bei("mnuFileExit", [this] { close(); });
 
@@ -118,13 +122,28 @@ void FrmMain::Verbinden() {
 
     // Help.
     bei("mnuHelpContents", [this] { Hilfe(); });
-    bei("mnuHelpZP", [] { QDesktopServices::openUrl(QUrl(QString::fromLatin1(Homepage))); });
-    bei("mnuHelpHotline", [] { QDesktopServices::openUrl(QUrl(QString::fromLatin1(Mailadresse))); });
-    bei("mnuupdate", [this] {
+    const QString keinBrowser =
+        QStringLiteral("Die Seite konnte nicht geöffnet werden, weil kein Webbrowser eingerichtet ist. Bitte "
+                       "rufen Sie diese Adresse selbst auf:");
+    bei("mnuHelpZP", [this, keinBrowser] {
+        const QUrl seite(QString::fromLatin1(Homepage));
+        if (!AdresseOeffnen(seite)) Meldung(keinBrowser, QStringLiteral("Zur ZP-Homepage"), seite.toString());
+    });
+    bei("mnuHelpHotline", [this] {
+        const QUrl mail(QString::fromLatin1(Mailadresse));
+        if (!AdresseOeffnen(mail))
+            Meldung(QStringLiteral(
+                        "Die Mail konnte nicht begonnen werden, weil kein E-Mail-Programm eingerichtet "
+                        "ist. Bitte schreiben Sie an diese Adresse:"),
+                    QStringLiteral("Mail an den Autor"), mail.path());
+    });
+    bei("mnuupdate", [this, keinBrowser] {
         QString version = s.Programmversion;
         version.remove(QLatin1Char('.'));
-        QDesktopServices::openUrl(QUrl(QString::fromLatin1(Homepage) + QStringLiteral("update") + version +
-                                       QStringLiteral(".html")));
+        const QUrl seite(QString::fromLatin1(Homepage) + QStringLiteral("update") + version +
+                         QStringLiteral(".html"));
+        if (!AdresseOeffnen(seite))
+            Meldung(keinBrowser, QStringLiteral("Programm aktualisieren"), seite.toString());
     });
     bei("mnuInfo", [this] {
         FrmInfo info(s, this);
@@ -240,12 +259,12 @@ void FrmMain::Verbinden() {
         FeiertagAngeklickt();
         m_textFeiertag->setFocus();
     });
-    // Paging a view to another month rebuilds the marks of the month shown.
+    // Paging a view to another month marks the days of the month shown; the selected day, and so
+    // what the boxes show and change, stays.
     for (Monatskalender* v : {m_monat1, m_monat2})
-        connect(v, &QCalendarWidget::currentPageChanged, this, [this](int jahr, int monat) {
-            s.Panel.MonthView2.Value = QDate(jahr, monat, 1);
-            TagesmarkenAufbauen(s);
-            KalenderpanelZeigen();
+        connect(v, &QCalendarWidget::currentPageChanged, this, [this, v](int jahr, int monat) {
+            MonatGeblaettert(s, v == m_monat2, jahr, monat);
+            if (s.LadeSperre == 0) KalenderpanelZeigen();
         });
     connect(m_textTermin, &QPlainTextEdit::textChanged, this, [this] { TerminGeaendert(); });
     connect(m_textFeiertag, &QLineEdit::textChanged, this, [this] { FeiertagGeaendert(); });
@@ -403,6 +422,7 @@ void FrmMain::EditionAnwenden() {
 }
 
 void FrmMain::Haekchen() {
+    Aktion(QStringLiteral("mnuSitzung"))->setChecked(SitzungWiederherstellenAn(s));
     Aktion(QStringLiteral("mnuRahmensichtbar"))->setChecked(s.RahmenAnzeigen == -1);
     Aktion(QStringLiteral("mnuRahmenMagnet"))->setChecked(s.GitterAn == -1);
     Aktion(QStringLiteral("mmummgenau"))->setChecked(s.MMGenau != 0);
@@ -519,9 +539,8 @@ void FrmMain::FarbfeldGeklickt(int art) {
 }
 
 void FrmMain::JahrGetipptBefehl() {
-    const QString text = m_comboJahr->currentText().trimmed();
-    if (text == QString::number(static_cast<long long>(s.Kalenderjahr))) return;
-    if (!JahrGetippt(s, *this, text))
+    // Enter or leaving the box: a year the views don't show yet acts as a pick from the list.
+    if (!JahrBestaetigt(s, *this, m_comboJahr->currentText().trimmed()))
         m_comboJahr->setEditText(QString::number(static_cast<long long>(s.Kalenderjahr)));
 }
 
@@ -571,7 +590,15 @@ void FrmMain::Hilfe() {
             s.Programmname, datei);
         return;
     }
-    QDesktopServices::openUrl(QUrl::fromLocalFile(datei));
+    if (!AdresseOeffnen(QUrl::fromLocalFile(datei)))
+        Meldung(
+            QStringLiteral("Die Hilfe konnte nicht angezeigt werden, weil kein Webbrowser eingerichtet ist. "
+                           "Sie können die Hilfedatei selbst öffnen:"),
+            s.Programmname, datei);
+}
+
+bool FrmMain::AdresseOeffnen(const QUrl& adresse) {
+    return QDesktopServices::openUrl(adresse);
 }
 
 void FrmMain::Drucken() {

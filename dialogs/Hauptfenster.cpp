@@ -21,7 +21,8 @@ Dokumentdienste VorhandeneDienste() {
 int StarteHauptfenster(AppState& s) {
     auto* app = qobject_cast<QApplication*>(QCoreApplication::instance());
     if (!app) return 1;
-    QApplication::setApplicationDisplayName(s.Programmname);
+    // No display name: the platform would add it to every caption, and the main window's caption
+    // is the edition and its version exactly.
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("zp"), QIcon(QStringLiteral(":/zp/zp.svg"))));
     QTranslator qtDeutsch;
     if (qtDeutsch.load(QLocale(QLocale::German, QLocale::Germany), QStringLiteral("qtbase"),

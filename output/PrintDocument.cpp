@@ -85,6 +85,7 @@ private:
     double fertig = 0;   // pieces done for the current address
     double proBogen = 1; // pieces per sheet
     double start = 1;    // first position to print on the first sheet
+    double belegt = 0;   // places of the first sheet counted as used without being walked
     double von = 1, bis = 1;
     QString kategorie;
     int geraeteversatz = 0; // GetDeviceCaps(hDC, 112)
@@ -157,8 +158,9 @@ void Druckgang::Raster() {
     const ClassEtikett& e = s.AktuellesEtikett;
     const double schrittX = static_cast<double>(e.Breite) + e.Abstand_x;
     const double schrittY = static_cast<double>(e.Höhe) + e.Abstand_y;
-    double position = 0;
+    double position = belegt;
     for (;;) {
+        bool bogenVoll = false;
         c.SetWindowOrgEx(0, 0);
         s.DruckversatzX = seite.Randlinks;
         s.DruckversatzY = seite.Randoben;
@@ -169,9 +171,8 @@ void Druckgang::Raster() {
                 s.EtikettX = seite.Randlinks + spalte;
                 s.EtikettY = seite.Randoben + zeile;
                 if (position < start) {
-                    // A used label of a started sheet stays empty. Only label sheets move on to
-                    // the next place; business cards keep their place and only count it.
-                    if (s.IstEtikett != 0) WendeDruckversatzAn(s, c);
+                    // A used label of a started sheet stays empty: the origin moves past it.
+                    WendeDruckversatzAn(s, c);
                 } else {
                     start = 0;
                     Stueck();
@@ -190,15 +191,18 @@ void Druckgang::Raster() {
                 if (abgebrochen) stopp = true;
                 if (stopp) break;
                 if (position == proBogen && Bogenfolge()) {
+                    // A sheet whose used places were counted ahead is full before its walk ends.
                     ausgabe.NeueSeite();
                     position = 0;
+                    bogenVoll = true;
+                    break;
                 }
                 if (s.NurEineKarte != 0 && s.IstVisitenkarte == 0) break;
                 s.DruckversatzX = schrittX;
                 s.DruckversatzY = 0;
                 spalte += schrittX;
             }
-            if (stopp || s.NurEineKarte != 0) break;
+            if (stopp || bogenVoll || s.NurEineKarte != 0) break;
             // Back to the first column, one row down.
             s.DruckversatzX = schrittX - spalte;
             spalte = 0;
@@ -260,6 +264,13 @@ Druckergebnis Druckgang::Laufe() {
     proBogen = static_cast<double>(e.Anzahl_x) * e.Anzahl_y;
     if (wahl.SeiteDrucken || (Kalender() && Typ() == 3)) gewollt *= proBogen;
     start = (s.ErstesEtikett > 1 && s.ErstesEtikett < proBogen) ? s.ErstesEtikett : 1;
+    if (s.IstEtikett == 0) {
+        // Only a label sheet has used places to pass over. Business cards start at the first
+        // place with the margins, and the used places only shorten the first sheet; a calendar's
+        // grid always fills its sheet.
+        if (s.IstVisitenkarte != 0) belegt = start - 1;
+        start = 1;
+    }
 
     WaehleDatensaetze();
     if (stopp) {

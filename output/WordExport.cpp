@@ -26,6 +26,8 @@ const QString kBildname = QStringLiteral("zp-seite.png");
 constexpr double kTextspalteMm = 160;
 constexpr double kPixelJeMm = 96.0 / 25.4; // the document's lengths are pixels at 96 dpi
 
+} // namespace
+
 QString NeuerDokumentpfad() {
     QString ordner = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     if (ordner.isEmpty() || !QDir().mkpath(ordner)) ordner = QDir::tempPath();
@@ -35,8 +37,6 @@ QString NeuerDokumentpfad() {
         pfad = dir.filePath(QStringLiteral("ZP-Seite %1.odt").arg(n));
     return pfad;
 }
-
-} // namespace
 
 std::unique_ptr<QTextDocument> Worddokument(const QImage& seite, double breiteMm) {
     auto dokument = std::make_unique<QTextDocument>();

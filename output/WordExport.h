@@ -23,6 +23,9 @@ inline constexpr int kLeerzeilenUnterDemBild = 14;
 // The document as an OpenDocument text into `ziel`. False when writing failed.
 [[nodiscard]] bool SchreibeWorddokument(const QImage& seite, double breiteMm, QIODevice& ziel);
 
+// A new file name in the documents folder: "ZP-Seite.odt", numbered when taken.
+[[nodiscard]] QString NeuerDokumentpfad();
+
 // Draws the page for export (the export bitmap with ExportAktiv set).
 using Exportbild = std::function<QImage(AppState&)>;
 

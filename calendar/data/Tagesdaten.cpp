@@ -284,4 +284,18 @@ bool JahrGetippt(AppState& s, Oberflaeche& ui, const QString& text) {
     return true;
 }
 
+bool JahrBestaetigt(AppState& s, Oberflaeche& ui, const QString& text) {
+    if (!JahrGetippt(s, ui, text)) return false;
+    const int jahr = static_cast<int>(s.Kalenderjahr);
+    if (s.Panel.MonthView1.MinDate.isValid() && s.Panel.MonthView1.MinDate.year() == jahr) return true;
+    return JahrGewaehlt(s, ui, jahr);
+}
+
+void MonatGeblaettert(AppState& s, bool feiertage, int jahr, int monat) {
+    if (feiertage)
+        MarkenSetzen(s.Panel.MonthView2, jahr, monat, s.Feiertage);
+    else
+        MarkenSetzen(s.Panel.MonthView1, jahr, monat, s.Termine);
+}
+
 } // namespace zp

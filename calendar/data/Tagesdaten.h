@@ -70,6 +70,12 @@ bool BilddateiGeaendert(AppState& s, const QString& pfad);
 bool JahrGewaehlt(AppState& s, Oberflaeche& ui, int jahr);
 // A year typed into ComboJahr: stored, nothing else; refused like a click when out of range.
 bool JahrGetippt(AppState& s, Oberflaeche& ui, const QString& text);
+// Enter in ComboJahr, or leaving it: a typed year that the month views don't show yet acts as a
+// pick from the list. False for a text that is no year (told).
+bool JahrBestaetigt(AppState& s, Oberflaeche& ui, const QString& text);
+// A month view paged to another month: the bold marks of that month; the selected day stays, so
+// that the boxes keep showing the day they belong to.
+void MonatGeblaettert(AppState& s, bool feiertage, int jahr, int monat);
 // The month views' range and selection set to the year (start-up, after a year change).
 void MonatsansichtenAufJahr(AppState& s, int jahr);
 

@@ -52,6 +52,14 @@ public:
         return vorgabeDatei;
     }
 
+    // The same for saving, with a suggested name; the default answers with `vorgabeDatei`, else
+    // with the suggestion.
+    virtual QString SpeicherDateiWaehlen(const QString& titel, const QString& filter,
+                                         const QString& vorschlag) {
+        (void)titel, (void)filter;
+        return vorgabeDatei.isEmpty() ? vorschlag : vorgabeDatei;
+    }
+
     bool standardAntwort = true;
     QString vorgabeDatei;
 };

@@ -117,6 +117,41 @@ TEST(Jahreswechsel, AsksKeepsAppointmentsAndMovesTheViews) {
     EXPECT_EQ(s.Kalenderjahr, 2030);
 }
 
+TEST(Jahreswechsel, EinGetipptesJahrWirktBeimBestaetigenWieEineWahl) {
+    AppState s = ImJahr(2026);
+    Waehle(s.Panel.MonthView1, QDate(2026, 3, 3), QDate(2026, 3, 3));
+    test::ProtokollOberflaeche ui;
+    ui.standardAntwort = false;
+    // Typing alone only stores the year; the views stay until Enter or leaving the box.
+    ASSERT_TRUE(JahrGetippt(s, ui, QStringLiteral("2027")));
+    EXPECT_EQ(s.Panel.MonthView1.MinDate, QDate(2026, 1, 1));
+    ASSERT_TRUE(JahrBestaetigt(s, ui, QStringLiteral("2027")));
+    EXPECT_EQ(ui.fragen.size(), 1);
+    EXPECT_EQ(s.Panel.MonthView1.MinDate, QDate(2027, 1, 1));
+    // A day picked now falls on the weekday of the new year.
+    EXPECT_EQ(s.Panel.MonthView1.Value, QDate(2027, 3, 3));
+    EXPECT_EQ(s.Panel.MonthView1.Value.dayOfWeek(), Qt::Wednesday);
+    // The year on view again: nothing to ask.
+    ASSERT_TRUE(JahrBestaetigt(s, ui, QStringLiteral("2027")));
+    EXPECT_EQ(ui.fragen.size(), 1);
+    EXPECT_FALSE(JahrBestaetigt(s, ui, QStringLiteral("zwanzig")));
+    EXPECT_EQ(ui.meldungen.size(), 1);
+    EXPECT_EQ(s.Kalenderjahr, 2027);
+}
+
+TEST(Tagesmarken, BlaetternMarkiertDenMonatUndLaesstDieAuswahl) {
+    AppState s = ImJahr(2027);
+    s.Feiertage(1, 12) = QStringLiteral("Advent");
+    s.Termine(24, 12) = QStringLiteral("Heiligabend");
+    Waehle(s.Panel.MonthView2, QDate(2027, 1, 1), QDate(2027, 1, 1));
+    MonatGeblaettert(s, true, 2027, 12);
+    MonatGeblaettert(s, false, 2027, 12);
+    EXPECT_EQ(s.Panel.MonthView2.Value, QDate(2027, 1, 1));
+    EXPECT_TRUE(s.Panel.MonthView2.Fett.contains(QDate(2027, 12, 1)));
+    EXPECT_FALSE(s.Panel.MonthView2.Fett.contains(QDate(2027, 12, 24)));
+    EXPECT_TRUE(s.Panel.MonthView1.Fett.contains(QDate(2027, 12, 24)));
+}
+
 TEST(Monatsbilder, SlotsCaptionsAndTheJanuaryRedraw) {
     QTemporaryDir dir;
     const QString bild = dir.filePath(QStringLiteral("januar.jpg"));

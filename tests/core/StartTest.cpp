@@ -40,6 +40,7 @@ TEST(Main, BuildsTheDefaultDocument) {
     EXPECT_EQ(s.Programmpfad, leer.path() + u'/');
     EXPECT_EQ(s.Datendatei, leer.path() + QStringLiteral("/neu.zpd"));
     EXPECT_EQ(s.LadeSperre, 255);
+    EXPECT_EQ(s.Seriennummer, 1); // "#Seriennummer" shows 1 until a print counts
 
     ASSERT_EQ(s.RahmenAnzahl, 31);
     ASSERT_EQ(s.Rahmenliste.Obergrenze(), 31);
@@ -163,6 +164,19 @@ TEST(Programmordner, SeedingKeepsTheUsersFiles) {
     EXPECT_TRUE(fehler.contains(u"mitgelieferten Daten"));
 }
 
+TEST(Schriftenliste, FamiliennamenOhneHerstellerUndMitArial) {
+    AppState s;
+    LeseSchriftenliste(s);
+    QStringList namen;
+    for (int i = 1; i <= s.Schriftenliste.Obergrenze() && s.Schriftenliste(i) != u"-1"; ++i) {
+        EXPECT_FALSE(s.Schriftenliste(i).contains(u'[')) << s.Schriftenliste(i).toStdString();
+        EXPECT_FALSE(namen.contains(s.Schriftenliste(i))) << s.Schriftenliste(i).toStdString();
+        namen << s.Schriftenliste(i);
+        if (namen.last() == u"Arial") EXPECT_EQ(s.SchriftSkalierbar(i), -1);
+    }
+    EXPECT_TRUE(namen.contains(u"Arial"));
+}
+
 TEST(LadeStartzustand, EditionFilesAndStartDocument) {
     QTemporaryDir tmp;
     test::ProtokollOberflaeche ui;
@@ -219,7 +233,7 @@ TEST(Beenden, WritesTheEditionsFiles) {
     k.Programmpfad = tmp.filePath(QStringLiteral("weg/"));
     ui.ganz.clear();
     EXPECT_FALSE(BeendenDateienSchreiben(k, ui));
-    EXPECT_EQ(ui.ganz.size(), 4);
+    EXPECT_EQ(ui.ganz.size(), 5); // sitzung.ini, zp.ini, kalender.ini, auto.zpd, the design
 
     // Visitenkarte: the address records go to daten.dat.
     QTemporaryDir tmp2;

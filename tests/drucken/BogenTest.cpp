@@ -57,18 +57,25 @@ TEST(Bogen, ErstesEtikettFuenfLaesstEtikettenfrei) {
     EXPECT_EQ(d.Ereignisse, (std::vector<std::string>{"Oeffne", "NeueSeite", "Schliesse"}));
 }
 
-TEST(Bogen, VisitenkartenZaehlenUebersprungenePlaetzeOhneSieZuVerschieben) {
+TEST(Bogen, VisitenkartenBeginnenAmErstenPlatzUndKuerzenNurDenErstenBogen) {
     AppState s = Etikettenbogen(true);
     s.ErstesEtikett = 5;
     Aufzeichnungsdrucker d;
-    d.Drucke(s, {.Kopien = "2"});
-    ASSERT_EQ(d.Stuecke.size(), 2u);
-    // The skipped places don't move the origin: the first card is drawn one step across from the
-    // sheet's corner, where the shift of place 4 leaves it, and the next one a step further.
-    EXPECT_EQ(d.Stuecke[0].Ursprung, QPoint(-Px(685), 0));
-    EXPECT_EQ(d.Stuecke[1].Ursprung, QPoint(-2 * Px(685), 0));
-    // The place on the sheet is still counted from position 5.
-    EXPECT_DOUBLE_EQ(d.Stuecke[0].EtikettX, 72 + 685);
+    ASSERT_EQ(d.Drucke(s, {.Kopien = "24"}), Druckergebnis::Gedruckt);
+    ASSERT_EQ(d.Stuecke.size(), 24u);
+    // The cards start at the first place, with the margins, and follow the grid.
+    EXPECT_EQ(d.Stuecke[0].Ursprung, Platz(s, 1, 1));
+    EXPECT_DOUBLE_EQ(d.Stuecke[0].EtikettX, 72);
+    EXPECT_EQ(d.Stuecke[1].Ursprung, Platz(s, 2, 1));
+    EXPECT_EQ(d.Stuecke[3].Ursprung, Platz(s, 1, 2));
+    EXPECT_EQ(d.Stuecke[19].Ursprung, Platz(s, 2, 7));
+    // The four used places are still counted: the first sheet holds 20 cards, the second sheet
+    // starts at its first place again.
+    EXPECT_EQ(d.Stuecke[19].Seite, 1);
+    EXPECT_EQ(d.Stuecke[20].Seite, 2);
+    EXPECT_EQ(d.Stuecke[20].Ursprung, Platz(s, 1, 1));
+    EXPECT_EQ(d.Stuecke[23].Ursprung, Platz(s, 1, 2));
+    EXPECT_EQ(d.Ereignisse, (std::vector<std::string>{"Oeffne", "NeueSeite", "Schliesse"}));
 }
 
 TEST(Bogen, KopienZaehlenJeAdresseUndSeriennummernJeStueck) {

@@ -2,6 +2,11 @@
 // written.
 #include "Aufzeichnungsdrucker.h"
 
+#include "common/ProtokollOberflaeche.h"
+#include "core/Programmdienste.h"
+#include "core/Programmordner.h"
+#include "core/Start.h"
+#include "core/runtime/TextDatei.h"
 #include "output/Druckauftrag.h"
 #include "output/Druckercanvas.h"
 #include "output/Druckerliste.h"
@@ -178,6 +183,50 @@ TEST(Druckerwarteschlange, DruckAufEinerCupsWarteschlange) {
     EXPECT_EQ(CommandDrucken(s, o, drucker, a, Namenskomposition()), Druckergebnis::Gedruckt);
     EXPECT_EQ(drucker.Seiten(), 1);
     EXPECT_TRUE(o.Meldungen.empty());
+}
+
+TEST(PdfDruck, NurEinGanzerAuftragNimmtDenNamenDerDatei) {
+    if (!PopplerDa()) GTEST_SKIP() << "poppler-utils fehlen";
+    QTemporaryDir dir;
+    QString fehler;
+    ASSERT_TRUE(RichteProgrammordnerEin(dir.filePath("ordner"), "Etikett", ZP_DATEN_DIR, &fehler));
+    AppState s;
+    ProtokollOberflaeche ui;
+    Main(s, dir.filePath("ordner"), ui);
+    LadeStartzustand(s, ui);
+    s.LadeSperre = 0;
+    s.Datensaetze.Redim(30, 60);
+    for (int r = 1; r <= 60; ++r)
+        s.Datensaetze(1, r) = QStringLiteral("Adresse%1").arg(r);
+    s.DatensatzAnzahl = 60;
+    Druckdialogwerte w;
+    w.Drucker = kPdfDatei;
+    w.PdfDatei = dir.filePath("etiketten.pdf");
+    w.Kopien = "1";
+    w.TextStart = "1";
+    w.Adressen = 4;
+    {
+        QFile alt(w.PdfDatei);
+        ASSERT_TRUE(alt.open(QIODevice::WriteOnly));
+        alt.write("die alte Datei");
+    }
+    const Dokumentdienste d = ProgrammDienste();
+    int gefragt = 0;
+    // Cancelled after the second piece: the older file stays as it was, and no part is left over.
+    EXPECT_FALSE(d.Drucken(s, ui, w, [&](int, int) { return ++gefragt < 2; }));
+    EXPECT_EQ(*LeseDatei(w.PdfDatei), "die alte Datei");
+    EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files), QStringList{"etiketten.pdf"});
+
+    // A whole job replaces it with every page.
+    std::pair<int, int> zuletzt;
+    ASSERT_TRUE(d.Drucken(s, ui, w, [&](int seite, int gesamt) {
+        zuletzt = {seite, gesamt};
+        return true;
+    }));
+    EXPECT_GE(zuletzt.second, 2);
+    EXPECT_EQ(zuletzt.first, zuletzt.second);
+    EXPECT_EQ(PdfSeiten(w.PdfDatei), zuletzt.second);
+    EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files), QStringList{"etiketten.pdf"});
 }
 
 } // namespace

@@ -11,6 +11,7 @@
 #include "dialogs/Hauptfenster.h"
 
 #include <QStringList>
+#include <QUrl>
 #include <optional>
 
 namespace zp::test {
@@ -61,7 +62,14 @@ public:
         fragen << text;
         return antwort;
     }
-    void Meldung(const QString& text, const QString&, const QString& = {}) override { meldungen << text; }
+    void Meldung(const QString& text, const QString&, const QString& detail = {}) override {
+        meldungen << text;
+        details << detail;
+    }
+    bool AdresseOeffnen(const QUrl& adresse) override {
+        adressen << adresse.toString();
+        return oeffnenGelingt;
+    }
     QString DateiWaehlen(const QString&, const QString& filter, bool) override {
         filter_ = filter;
         return datei;
@@ -76,7 +84,8 @@ public:
     QString datei;
     QString filter_;
     std::optional<QColor> farbe;
-    QStringList fragen, meldungen;
+    QStringList fragen, meldungen, details, adressen;
+    bool oeffnenGelingt = true;
 };
 
 // The state as Main leaves it: the built-in document of 30 text frames and the letter body.

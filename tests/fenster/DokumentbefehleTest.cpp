@@ -56,6 +56,24 @@ TEST(Dateifilter, QtFormKeepsEveryPattern) {
     EXPECT_TRUE(QtDateifilter({}).isEmpty());
 }
 
+TEST(Dateifilter, SpeichernUnterGibtDemNamenDieEndungDesFilters) {
+    struct Fall {
+        const char* name;
+        const char* eintrag;
+        const char* erwartet;
+    } faelle[] = {
+        {"/home/ich/meinkalender", "Kalenderdesign (*.zpk)", "/home/ich/meinkalender.zpk"},
+        {"/home/ich/meinkalender", "Termine und Daten (*.zpd)", "/home/ich/meinkalender.zpd"},
+        {"/home/ich/karte", "*.zpv", "/home/ich/karte.zpv"},
+        {"/home/ich/plan.zpk", "Termine und Daten (*.zpd)", "/home/ich/plan.zpk"}, // typed ending stays
+        {"/home/ich/Plan.ZPD", "Kalenderdesign (*.zpk)", "/home/ich/Plan.ZPD"},
+        {"/home/ich.neu/cover", "", "/home/ich.neu/cover"}, // the CD cover has no filter
+        {"", "Kalenderdesign (*.zpk)", ""},                 // cancelled
+    };
+    for (const Fall& f : faelle)
+        EXPECT_EQ(MitFilterendung(f.name, f.eintrag), f.erwartet) << f.name << " " << f.eintrag;
+}
+
 TEST_F(Kalender, NeuMitNeinLaesstAllesStehen) {
     s.Termine(3, 5) = "Geburtstag";
     s.Datendatei = "/x/meine.zpd";
@@ -206,7 +224,7 @@ TEST(Galerie, LaedtVorlageUndBehaeltDenEigenenDateinamen) {
     Grundzustand(s, "ZP Visitenkarte", ordner.path());
     s.AktuelleDatei = "/home/ich/karte.zpv";
     GalerieLaden(s, ui, AlleDienste(p), 2);
-    EXPECT_EQ(p.aufrufe, QStringList{"LoadDesign:" + vorlage.fileName() + "||"});
+    EXPECT_EQ(p.aufrufe, QStringList{"LoadDesign:" + vorlage.fileName() + "||" + vorlage.fileName()});
     EXPECT_EQ(s.AktuelleDatei, "/home/ich/karte.zpv");
     EXPECT_EQ(ui.datei, "/home/ich/karte.zpv");
     // A row without its file loads nothing.

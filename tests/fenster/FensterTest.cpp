@@ -2,10 +2,12 @@
 // and commands run through the window's own controls.
 #include "Attrappen.h"
 
+#include "core/Sitzung.h"
 #include "core/state/Editionen.h"
 #include "dialogs/FrmDrucken.h"
 #include "dialogs/Monatskalender.h"
 #include "dialogs/Seitenansicht.h"
+#include "persist/Kalenderdaten.h"
 
 #include <QAction>
 #include <QApplication>
@@ -17,6 +19,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QStackedWidget>
@@ -115,9 +118,11 @@ TEST(Laden, FuelltListenTitelUndStartdokument) {
     f.s.Kalenderjahr = 2002;
     EXPECT_EQ(f.fenster->windowTitle(), "ZP Kalender - Version 8.02");
     auto* jahr = f.kind<QComboBox>("ComboJahr");
-    EXPECT_EQ(jahr->count(), 21);
+    // From 1990 to ten years past the current one.
+    const int letztes = QDate::currentDate().year() + 10;
+    EXPECT_EQ(jahr->count(), letztes - 1990 + 1);
     EXPECT_EQ(jahr->itemText(0), "1990");
-    EXPECT_EQ(jahr->itemText(20), "2010");
+    EXPECT_EQ(jahr->itemText(jahr->count() - 1), QString::number(letztes));
     EXPECT_EQ(jahr->currentText(), "2002");
     EXPECT_EQ(f.kind<QComboBox>("ComboVariante")->itemText(1), "Variante 2");
     EXPECT_EQ(f.kind<QComboBox>("ComboMonat")->itemText(2), "März");
@@ -148,6 +153,29 @@ TEST(Laden, EinJahrAusserhalbDerListeBleibtGueltig) {
     EXPECT_EQ(f.findChild<QComboBox*>("ComboJahr")->currentText(), "2026");
     EXPECT_EQ(f.findChild<Monatskalender*>("MonthView1")->maximumDate(), QDate(2026, 12, 31));
     EXPECT_EQ(s.Kalenderjahr, 2026);
+}
+
+TEST(Laden, DieTageDerLetztenSitzungSindMitIhrenMarkenDa) {
+    AppState s;
+    QTemporaryDir ordner;
+    Grundzustand(s, "ZP Kalender", ordner.path());
+    s.Kalenderjahr = 2027;
+    Kalenderdaten tage;
+    tage.Termine(5, 1) = "Zahnarzt";
+    QFile autoZpd(ordner.filePath("auto.zpd"));
+    ASSERT_TRUE(autoZpd.open(QIODevice::WriteOnly));
+    autoZpd.write(ZpdBytes(tage));
+    autoZpd.close();
+    Protokoll p;
+    TestFenster f(s, AlleDienste(p));
+    f.Laden();
+    EXPECT_EQ(s.Termine(5, 1), "Zahnarzt");
+    EXPECT_TRUE(s.Panel.MonthView1.Fett.contains(QDate(2027, 1, 5)));
+    // The status bar says what came back, then shows the file again.
+    auto* status = f.findChild<QLabel*>("StatusBar_1");
+    EXPECT_TRUE(status->text().contains("letzten Sitzung")) << status->text().toStdString();
+    f.StatusDatei(s.Programmpfad + "anders.zpd");
+    EXPECT_EQ(status->text(), "Aktuelle Datei: " + s.Programmpfad + "anders.zpd");
 }
 
 TEST(Laden, OhneDiensteBleibenDateibefehleAus) {
@@ -263,6 +291,48 @@ TEST(Befehle, JahrAusDerListeMitJaUndNein) {
               1);
 }
 
+TEST(Befehle, GetipptesJahrMitEnterWirktWieEineWahl) {
+    Fenster f("ZP Kalender");
+    auto* jahr = f.kind<QComboBox>("ComboJahr");
+    auto* termine = f.kind<Monatskalender>("MonthView1");
+    f.fenster->antwort = false;
+    jahr->setEditText("2031");
+    emit jahr->lineEdit()->editingFinished();
+    EXPECT_EQ(f.s.Kalenderjahr, 2031);
+    EXPECT_EQ(f.fenster->fragen.count("Sollen die Feiertage neu berechnet werden?"), 1);
+    EXPECT_EQ(termine->minimumDate(), QDate(2031, 1, 1));
+    // A day picked now lies in 2031, on its own weekday.
+    termine->Waehlen(QDate(2031, 3, 3), false);
+    EXPECT_EQ(f.s.Panel.MonthView1.Value, QDate(2031, 3, 3));
+    // Leaving the box again with the same year asks nothing more.
+    emit jahr->lineEdit()->editingFinished();
+    EXPECT_EQ(f.fenster->fragen.size(), 1);
+}
+
+TEST(Befehle, FeiertagsfeldZeigtNachDemJahrDenGewaehltenTag) {
+    Fenster f("ZP Kalender");
+    auto* termine = f.kind<Monatskalender>("MonthView1");
+    auto* feiertage = f.kind<Monatskalender>("MonthView2");
+    auto* feld = f.kind<QLineEdit>("TextFeiertag");
+    f.s.Feiertage(1, 1) = "Neujahr";
+    termine->Waehlen(QDate(2002, 12, 5), false); // the appointments on view in December
+    feiertage->Waehlen(QDate(2002, 1, 1), false);
+    EXPECT_EQ(feld->text(), "Neujahr");
+    f.fenster->antwort = false;
+    emit f.kind<QComboBox>("ComboJahr")->activated(17); // 2007
+    ASSERT_EQ(f.s.Kalenderjahr, 2007);
+    // The view and the box show one and the same day.
+    EXPECT_EQ(feiertage->selectedDate(), QDate(2007, 1, 1));
+    EXPECT_EQ(feld->text(), f.s.Feiertage(1, 1));
+    feld->setText(feld->text() + "X");
+    EXPECT_EQ(f.s.Feiertage(1, 1), "NeujahrX");
+    EXPECT_TRUE(f.s.Feiertage(1, 12).isEmpty());
+    // Paging to another month keeps the selected day and its text.
+    feiertage->setCurrentPage(2007, 6);
+    EXPECT_EQ(f.s.Panel.MonthView2.Value, QDate(2007, 1, 1));
+    EXPECT_EQ(feld->text(), "NeujahrX");
+}
+
 TEST(Befehle, KartenMitDatensaetzenBlaettern) {
     Fenster f("ZP Visitenkarte");
     f.s.Datensaetze.RedimPreserve(30, 3);
@@ -340,6 +410,39 @@ TEST(Befehle, FokusWaehltDenRahmenDesTextfelds) {
     EXPECT_EQ(f.s.SchriftNummer, 5);
 }
 
+TEST(Befehle, DieLetzteSitzungLaesstSichAusschalten) {
+    Fenster f("ZP Etikett");
+    QAction* sitzung = f.aktion("mnuSitzung");
+    ASSERT_TRUE(sitzung->isCheckable());
+    EXPECT_TRUE(sitzung->isChecked()); // on in a fresh folder
+    sitzung->trigger();
+    EXPECT_FALSE(SitzungWiederherstellenAn(f.s));
+    EXPECT_TRUE(QFile::exists(f.s.Programmpfad + "sitzung.ini"));
+    sitzung->trigger();
+    EXPECT_TRUE(SitzungWiederherstellenAn(f.s));
+}
+
+TEST(Befehle, OhneBrowserSagenHilfeWebUndMailWohin) {
+    Fenster f("ZP Kalender");
+    f.fenster->oeffnenGelingt = false;
+    QFile hilfe(f.s.Programmpfad + "deutsch.html");
+    ASSERT_TRUE(hilfe.open(QIODevice::WriteOnly));
+    hilfe.close();
+    f.s.Hilfedatei = f.s.Programmpfad + "deutsch.hlp";
+    for (const char* eintrag : {"mnuHelpContents", "mnuHelpZP", "mnuHelpHotline", "mnuupdate"}) {
+        f.fenster->meldungen.clear();
+        f.fenster->details.clear();
+        f.aktion(eintrag)->trigger();
+        ASSERT_EQ(f.fenster->meldungen.size(), 1) << eintrag;
+        EXPECT_TRUE(f.fenster->meldungen[0].contains("eingerichtet")) << eintrag;
+        EXPECT_FALSE(f.fenster->details[0].isEmpty()) << eintrag;
+    }
+    EXPECT_EQ(f.fenster->details[0], "https://zp-kalender.de/update802.html");
+    f.fenster->details.clear();
+    f.aktion("mnuHelpContents")->trigger();
+    EXPECT_EQ(f.fenster->details[0], hilfe.fileName()); // where the user finds the help
+}
+
 TEST(Befehle, HilfeOhneDateiSagtEs) {
     Fenster f("ZP Etikett");
     f.s.Hilfedatei = f.s.Programmpfad + "deutsch.hlp"; // no deutsch.html beside it
@@ -376,6 +479,7 @@ TEST(Drucken, DialogZeigtSeitenUndSchreibtAbgleichSofort) {
     Grundzustand(s, "ZP Kalender", ordner.path());
     s.Kalendertyp = 4;
     Nutzer ui;
+    ui.vorgabeDatei = ordner.filePath("kalender.pdf"); // for the printer "PDF-Datei"
     Dokumentdienste d;
     Druckdialogwerte erhalten;
     d.Drucken = [&](AppState&, Oberflaeche&, const Druckdialogwerte& w,
@@ -402,6 +506,84 @@ TEST(Drucken, DialogZeigtSeitenUndSchreibtAbgleichSofort) {
     FrmDrucken tasche(s, ui, d);
     EXPECT_FALSE(tasche.findChild<QLineEdit*>("TextDruckStart")->isEnabled());
     EXPECT_EQ(tasche.findChild<QLineEdit*>("TextDruckEnde")->text(), "1");
+}
+
+// A user who picks a PDF file and notes whether a progress box stood over the file dialog.
+struct PdfNutzer : Nutzer {
+    QString DateiWaehlen(const QString&, const QString& filter, bool speichern) override {
+        EXPECT_TRUE(speichern);
+        EXPECT_EQ(filter, "PDF-Datei (*.pdf)|*.pdf");
+        for (QWidget* w : QApplication::topLevelWidgets())
+            if (qobject_cast<QProgressDialog*>(w) && w->isVisible()) ueberdeckt = true;
+        ++gefragt;
+        return vorgabeDatei;
+    }
+    int gefragt = 0;
+    bool ueberdeckt = false;
+};
+
+TEST(Drucken, PdfFragtZuerstNachDerDateiUndZeigtFortschrittNurBeimDrucken) {
+    AppState s;
+    QTemporaryDir ordner;
+    Grundzustand(s, "ZP Kalender", ordner.path());
+    s.Kalendertyp = 4;
+    PdfNutzer ui;
+    Dokumentdienste d;
+    Druckdialogwerte erhalten;
+    int laeufe = 0;
+    bool abbrechen = false;
+    d.Drucken = [&](AppState&, Oberflaeche&, const Druckdialogwerte& w,
+                    const std::function<bool(int, int)>& f) {
+        ++laeufe;
+        erhalten = w;
+        EXPECT_EQ(ui.gefragt, 1); // the file was asked before the run began
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+        for (int seite = 1; seite <= 12; ++seite) {
+            if (abbrechen && seite == 3)
+                for (QWidget* w : QApplication::topLevelWidgets())
+                    if (auto* box = qobject_cast<QProgressDialog*>(w)) box->cancel();
+            if (!f(seite, 12)) return false;
+        }
+        return true;
+    };
+    FrmDrucken dialog(s, ui, d);
+    dialog.findChild<QComboBox*>("Combo1")->setCurrentText("PDF-Datei");
+
+    // A cancelled file dialog prints nothing and says nothing.
+    dialog.CommandDrucken();
+    EXPECT_EQ(laeufe, 0);
+    EXPECT_TRUE(ui.meldungen.isEmpty());
+
+    ui.gefragt = 0;
+    ui.vorgabeDatei = ordner.filePath("kalender");
+    dialog.CommandDrucken();
+    EXPECT_EQ(laeufe, 1);
+    EXPECT_EQ(erhalten.PdfDatei, ordner.filePath("kalender.pdf"));
+    EXPECT_FALSE(ui.ueberdeckt);
+    EXPECT_TRUE(ui.meldungen.isEmpty());
+    EXPECT_EQ(dialog.findChild<QProgressDialog*>(), nullptr); // gone with the last page
+
+    // A cancel stops the run and says so.
+    ui.gefragt = 0;
+    abbrechen = true;
+    dialog.CommandDrucken();
+    EXPECT_EQ(ui.meldungen,
+              QStringList{"Der Druck wurde abgebrochen. Die PDF-Datei wurde nicht geschrieben."});
+}
+
+TEST(Drucken, EtikettenstartUndSeriennummerNurWoStueckeGedrucktWerden) {
+    for (const char* name : {"ZP Kalender", "ZP Briefkopf", "ZP Etikett", "ZP Visitenkarte"}) {
+        AppState s;
+        QTemporaryDir ordner;
+        Grundzustand(s, name, ordner.path());
+        Nutzer ui;
+        Dokumentdienste d;
+        FrmDrucken dialog(s, ui, d);
+        dialog.show();
+        const bool stuecke = QString(name).contains("Etikett") || QString(name).contains("Visitenkarte");
+        EXPECT_EQ(dialog.findChild<QLineEdit*>("TextStart")->isVisible(), stuecke) << name;
+        EXPECT_EQ(dialog.findChild<QLineEdit*>("TextSeriennummer")->isVisible(), stuecke) << name;
+    }
 }
 
 } // namespace

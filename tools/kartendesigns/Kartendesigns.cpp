@@ -1,8 +1,10 @@
 #include "Kartendesigns.h"
 
 #include "core/runtime/Basic.h"
+#include "core/runtime/TextDatei.h"
 #include "core/state/AppState.h"
 #include "core/state/Objekte.h"
+#include "persist/Design.h"
 
 #include <cmath>
 #include <vector>
@@ -319,6 +321,13 @@ void BaueKartendesign(AppState& s, int n) {
     Grunddokument(s);
     Design(s, n);
     Stapelordnung(s);
+}
+
+QByteArray GaleriedesignBytes(const AppState& s) {
+    // Line 5 marks a shipped template: its load never replaces the user's records.
+    QStringList zeilen = ZeilenAusBytes(SchreibeDesign(s));
+    if (zeilen.size() > 4) zeilen[4] = QStringLiteral("Vorlage");
+    return BytesAusZeilen(zeilen);
 }
 
 void BaueLayout(AppState& s, int k) {

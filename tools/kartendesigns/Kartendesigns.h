@@ -2,6 +2,7 @@
 // The documents behind the shipped data of the card editions: the gallery of 19 business cards,
 // the five layouts of the address texts, and a few sample addresses.
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
@@ -22,6 +23,9 @@ void Grunddokument(AppState& s);
 
 // Gallery design n (1 to 19) on a fresh card document.
 void BaueKartendesign(AppState& s, int n);
+
+// The design file of a gallery card: a template, whose load keeps the user's addresses.
+[[nodiscard]] QByteArray GaleriedesignBytes(const AppState& s);
 
 // Layout k (1 to 5) on a fresh card document: the arrangement of the 30 texts.
 void BaueLayout(AppState& s, int k);

@@ -1,8 +1,10 @@
 // Writes the shipped data of the card and label editions into the folder given (the repository's
-// daten/programm): Layout1.lay ... Layout5.lay and daten.dat.
+// daten/programm): the gallery daten/design1.zpv ... design19.zpv, Layout1.lay ... Layout5.lay and
+// daten.dat.
 #include "core/runtime/TextDatei.h"
 #include "core/state/AppState.h"
 #include "persist/Datensaetze.h"
+#include "persist/Design.h"
 #include "persist/Layout.h"
 #include "tools/kartendesigns/Kartendesigns.h"
 
@@ -32,6 +34,13 @@ int main(int argc, char** argv) {
         return 1;
     }
     bool ok = true;
+    for (int n = 1; n <= zp::Galerienamen().size(); ++n) {
+        zp::AppState s;
+        zp::BaueKartendesign(s, n);
+        ok =
+            Schreibe(ziel.filePath(QStringLiteral("daten/design%1.zpv").arg(n)), zp::GaleriedesignBytes(s)) &&
+            ok;
+    }
     for (int k = 1; k <= 5; ++k) {
         zp::AppState s;
         zp::BaueLayout(s, k);
