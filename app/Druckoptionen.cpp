@@ -52,29 +52,33 @@ std::optional<std::pair<double, double>> LeseAbgleich(const QString& text) {
     return std::make_pair(x, y);
 }
 
-Druckauftrag DruckauftragAusOptionen(const Batchlauf& lauf) {
-    Druckauftrag a;
-    a.Wahl.Kopien = lauf.Wert(QStringLiteral("--kopien"), QStringLiteral("1"));
-    a.Wahl.Seriennummer = lauf.Wert(QStringLiteral("--seriennummer"), QStringLiteral("1"));
-    a.Wahl.SeiteDrucken = lauf.Hat(QStringLiteral("--seite-drucken"));
-    a.EineKarte = !a.Wahl.SeiteDrucken;
+Druckdialogwerte DruckwerteAusOptionen(const Batchlauf& lauf) {
+    AppState& s = lauf.s;
+    Druckdialogwerte w;
+    w.Kopien = lauf.Wert(QStringLiteral("--kopien"), QStringLiteral("1"));
+    w.TextSeriennummer = lauf.Wert(QStringLiteral("--seriennummer"), QStringLiteral("1"));
+    w.EineKarte = !lauf.Hat(QStringLiteral("--seite-drucken"));
+    Druckwahl wahl;
     QString fehler;
     if (lauf.Hat(QStringLiteral("--adressen")))
-        (void)LeseAdressen(lauf.Wert(QStringLiteral("--adressen")), a.Wahl, fehler);
-    a.DruckStart = lauf.Wert(QStringLiteral("--von"), QStringLiteral("1"));
-    a.DruckEnde = lauf.Wert(QStringLiteral("--bis"));
-    a.Prozent = lauf.Wert(QStringLiteral("--prozent"), QStringLiteral("100"));
+        (void)LeseAdressen(lauf.Wert(QStringLiteral("--adressen")), wahl, fehler);
+    w.Adressen = static_cast<int>(wahl.Adressen);
+    w.Von = wahl.Von;
+    w.Bis = wahl.Bis;
+    w.Kategorie = wahl.Kategorie;
+    w.TextDruckStart = lauf.Wert(QStringLiteral("--von"), QStringLiteral("1"));
+    w.TextDruckEnde = lauf.Wert(QStringLiteral("--bis"));
+    w.TextProzent = lauf.Wert(QStringLiteral("--prozent"), QStringLiteral("100"));
+    // Without the option the box shows the state's first label, as the dialog does.
+    w.TextStart = lauf.Wert(QStringLiteral("--erstes-etikett"), QString::number(s.ErstesEtikett));
 
-    AppState& s = lauf.s;
-    if (lauf.Hat(QStringLiteral("--erstes-etikett")))
-        s.ErstesEtikett = LeseZahl(lauf.Wert(QStringLiteral("--erstes-etikett"))).value_or(1);
     if (lauf.Hat(QStringLiteral("--schnittmarken"))) s.AktuellesEtikett.Schnittmarken = -1;
     if (lauf.Hat(QStringLiteral("--schnittrahmen"))) s.AktuellesEtikett.Schnittrahmen = -1;
     if (const auto abgleich = LeseAbgleich(lauf.Wert(QStringLiteral("--abgleich")))) {
         s.AbgleichX = abgleich->first;
         s.AbgleichY = abgleich->second;
     }
-    return a;
+    return w;
 }
 
 } // namespace zp

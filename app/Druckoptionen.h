@@ -1,7 +1,8 @@
 #pragma once
 // The print dialog's values as the command line gives them (--kopien, --adressen, --abgleich ...).
 
-#include "output/Druckauftrag.h"
+#include "core/Druckbefehle.h"
+#include "output/PrintDocument.h"
 
 #include <QString>
 #include <optional>
@@ -17,8 +18,8 @@ struct Batchlauf;
 // A whole number as the boxes take it; std::nullopt for anything else.
 [[nodiscard]] std::optional<double> LeseZahl(const QString& text);
 
-// The request of the print options of a run; the values that the dialog writes into the state at
-// once (first label, marks, corrections) go there.
-[[nodiscard]] Druckauftrag DruckauftragAusOptionen(const Batchlauf& lauf);
+// The print dialog's boxes as the print options of a run give them; the values that the dialog
+// writes into the state at once (marks, corrections) go there.
+[[nodiscard]] Druckdialogwerte DruckwerteAusOptionen(const Batchlauf& lauf);
 
 } // namespace zp

@@ -8,6 +8,7 @@
 #include "render/Bildwerk.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <algorithm>
 #include <cstdio>
 #include <map>
@@ -147,6 +148,11 @@ void BatchOberflaeche::Meldung(const QString& text, const QString& titel, const 
     Schreibe(zeile + u'\n');
 }
 
+void BatchOberflaeche::Statusmeldung(const QString& text) {
+    // The window shows it in the status bar; without one it would be lost.
+    Schreibe(QStringLiteral("zp: ") + text + u'\n');
+}
+
 bool Batchlauf::Hat(const QString& name) const {
     return std::any_of(zeile.aufrufe.begin(), zeile.aufrufe.end(),
                        [&](const OptionAufruf& a) { return a.option->name == name; });
@@ -160,6 +166,13 @@ QString Batchlauf::Wert(const QString& name, const QString& vorgabe) const {
 
 void Batchlauf::Fehler(const QString& text) const {
     MeldeFehler(text);
+}
+
+QString KeineDatei(const QString& datei) {
+    const QFileInfo info(datei);
+    if (info.isFile()) return {};
+    if (info.isDir()) return QStringLiteral("Unter %1 steht ein Ordner, keine Datei.").arg(datei);
+    return QStringLiteral("Die Datei %1 wurde nicht gefunden.").arg(datei);
 }
 
 void MeldeFehler(const QString& text) {

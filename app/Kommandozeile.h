@@ -79,6 +79,7 @@ class BatchOberflaeche : public Oberflaeche {
 public:
     bool Frage(const QString& text, const QString& titel) override;
     void Meldung(const QString& text, const QString& titel, const QString& detail = {}) override;
+    void Statusmeldung(const QString& text) override;
     int warnungen = 0; // messages titled "Warnung!" or "Fehler" so far
 };
 
@@ -97,6 +98,9 @@ struct Batchlauf {
 
 // "zp: <text>" on standard error.
 void MeldeFehler(const QString& text);
+// Why `datei` can't be read as a file: missing, or a folder under that name; empty when it is a
+// file.
+[[nodiscard]] QString KeineDatei(const QString& datei);
 
 // A whole batch run: program folder, `Main`, the start document, then the actions in order.
 // Returns the exit status (0 success, 1 any error).

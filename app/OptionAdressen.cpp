@@ -17,8 +17,8 @@ using zp::Batchlauf;
 // Like the menu's import; unlike the menu, a run without a window names what it can't import,
 // since nobody sees that nothing came in.
 bool Importiere(Batchlauf& lauf, const QString& datei) {
-    if (!QFileInfo(datei).isFile()) {
-        lauf.Fehler(QStringLiteral("Die Datei %1 gibt es nicht.").arg(datei));
+    if (const QString fehlt = zp::KeineDatei(datei); !fehlt.isEmpty()) {
+        lauf.Fehler(fehlt);
         return false;
     }
     const QString endung = datei.right(3);

@@ -5,7 +5,7 @@
 
 namespace {
 bool Beenden(zp::Batchlauf& lauf, const QString&) {
-    return zp::BeendenDateienSchreiben(lauf.s, lauf.ui);
+    return zp::Beenden(lauf.s, lauf.ui);
 }
 const bool registriert = zp::RegistriereOption(
     {QStringLiteral("--beenden"),

@@ -1,18 +1,12 @@
 // --bmp DATEI: the page as a bitmap file, as "Bild speichern" writes it without its dialog.
 #include "app/Kommandozeile.h"
 
-#include "core/state/AppState.h"
-#include "output/Bitmapexport.h"
+#include "core/Druckbefehle.h"
 
 namespace {
 
 bool SchreibeBmp(zp::Batchlauf& lauf, const QString& datei) {
-    QString fehler;
-    if (!zp::BildSpeichern(lauf.s, datei, &fehler)) {
-        lauf.Fehler(fehler);
-        return false;
-    }
-    return true;
+    return zp::BefehlBildSpeichern(lauf.s, lauf.ui, datei);
 }
 
 const bool registriert = zp::RegistriereOption(

@@ -3,7 +3,6 @@
 #include "app/Kommandozeile.h"
 
 #include "core/Dokumentbefehle.h"
-#include "core/Programmdienste.h"
 #include "core/state/AppState.h"
 
 #include <QFileInfo>
@@ -18,26 +17,25 @@ int Warnungen(const zp::Batchlauf& lauf) {
 }
 
 bool Oeffnen(zp::Batchlauf& lauf, const QString& datei) {
-    if (!QFileInfo(datei).isFile()) {
-        lauf.Fehler(QStringLiteral("Die Datei %1 wurde nicht gefunden.").arg(datei));
+    if (const QString fehlt = zp::KeineDatei(datei); !fehlt.isEmpty()) {
+        lauf.Fehler(fehlt);
         return false;
     }
     const int vorher = Warnungen(lauf);
     lauf.ui.vorgabeDatei = QFileInfo(datei).absoluteFilePath();
-    const bool gut = zp::BefehlOeffnen(lauf.s, lauf.ui, zp::ProgrammDienste());
+    const bool gut = zp::BefehlOeffnen(lauf.s, lauf.ui);
     lauf.ui.vorgabeDatei.clear();
     return gut && Warnungen(lauf) == vorher;
 }
 
 bool Speichern(zp::Batchlauf& lauf, const QString&) {
-    return zp::BefehlSpeichern(lauf.s, lauf.ui, zp::ProgrammDienste());
+    return zp::BefehlSpeichern(lauf.s, lauf.ui);
 }
 
 bool SpeichernUnter(zp::Batchlauf& lauf, const QString& datei) {
     const int vorher = Warnungen(lauf);
     lauf.ui.vorgabeDatei = QFileInfo(datei).absoluteFilePath();
-    const bool gut =
-        zp::BefehlSpeichernUnter(lauf.s, lauf.ui, zp::ProgrammDienste(), zp::Dateidialog::SpeichernUnter);
+    const bool gut = zp::BefehlSpeichernUnter(lauf.s, lauf.ui, zp::Dateidialog::SpeichernUnter);
     lauf.ui.vorgabeDatei.clear();
     return gut && Warnungen(lauf) == vorher;
 }

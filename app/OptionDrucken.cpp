@@ -3,7 +3,7 @@
 // --schnittrahmen, --abgleich); --word.
 #include "app/Druckoptionen.h"
 #include "app/Kommandozeile.h"
-#include "core/Programmdruck.h"
+#include "core/Druckbefehle.h"
 
 #include <QElapsedTimer>
 #include <cstdio>
@@ -33,11 +33,13 @@ Druckfortschritt FortschrittAufStderr() {
 }
 
 bool DruckeAusKommandozeile(Batchlauf& lauf, const QString& drucker, const QString& pdf) {
-    const Druckauftrag auftrag = DruckauftragAusOptionen(lauf);
+    Druckdialogwerte werte = DruckwerteAusOptionen(lauf);
+    werte.Drucker = drucker;
+    werte.PdfDatei = pdf;
     // Without a window nobody can agree to a run of more than 10 000 pages.
     const bool antwort = lauf.ui.standardAntwort;
     lauf.ui.standardAntwort = false;
-    const Druckergebnis e = Drucke(lauf.s, lauf.ui, drucker, pdf, auftrag, FortschrittAufStderr());
+    const Druckergebnis e = BefehlDrucken(lauf.s, lauf.ui, werte, FortschrittAufStderr());
     lauf.ui.standardAntwort = antwort;
     if (e == Druckergebnis::Abgebrochen) lauf.Fehler(QStringLiteral("Der Druck wurde nicht ausgeführt."));
     return e == Druckergebnis::Gedruckt;
@@ -52,7 +54,7 @@ bool Drucker(Batchlauf& lauf, const QString& name) {
 }
 
 bool Word(Batchlauf& lauf, const QString& datei) {
-    return !WordExportieren(lauf.s, lauf.ui, datei, false).isEmpty();
+    return BefehlWord(lauf.s, lauf.ui, datei, false);
 }
 
 Option Zahl(const char* name, const char* hilfe) {

@@ -2,13 +2,12 @@
 // buttons, the variant box, a click in the year list, the holiday button and the page spinner.
 #include "app/Kommandozeile.h"
 
-#include "calendar/data/Feiertage.h"
 #include "calendar/data/Kalendertypen.h"
 #include "calendar/data/Tagesdaten.h"
 #include "calendar/walks/KalenderLauf.h"
+#include "core/Kalenderbefehle.h"
 #include "core/runtime/Basic.h"
 #include "core/state/AppState.h"
-#include "persist/Design.h"
 
 #include <cmath>
 #include <optional>
@@ -51,24 +50,16 @@ private:
     bool m_ja;
 };
 
-// The design files of the program folder, written and read as the type buttons do.
-zp::Designablage Ablage(Batchlauf& lauf) {
-    zp::Oberflaeche& ui = lauf.ui;
-    return {[&ui](zp::AppState& s) { return zp::SaveDesign(s, ui); },
-            [&ui](zp::AppState& s) { return zp::LoadDesign(s, ui); }};
-}
-
 bool Typ(Batchlauf& lauf, const QString& argument) {
     if (!Kalender(lauf, QStringLiteral("--typ"))) return false;
     const auto typ = Zahl(lauf, QStringLiteral("--typ"), argument, 1, 7);
-    return typ && zp::CommandTyp(lauf.s, lauf.ui, Ablage(lauf), *typ);
+    return typ && zp::CommandTyp(lauf.s, lauf.ui, *typ);
 }
 
 bool Variante(Batchlauf& lauf, const QString& argument) {
     if (!Kalender(lauf, QStringLiteral("--variante"))) return false;
     const auto variante = Zahl(lauf, QStringLiteral("--variante"), argument, 1, 2);
-    return variante &&
-           zp::ComboVariante(lauf.s, lauf.ui, Ablage(lauf), QStringLiteral("Variante %1").arg(*variante));
+    return variante && zp::ComboVariante(lauf.s, lauf.ui, QStringLiteral("Variante %1").arg(*variante));
 }
 
 bool Jahr(Batchlauf& lauf, const QString& argument) {
@@ -81,7 +72,7 @@ bool Jahr(Batchlauf& lauf, const QString& argument) {
 
 bool Feiertage(Batchlauf& lauf, const QString&) {
     if (!Kalender(lauf, QStringLiteral("--feiertage"))) return false;
-    zp::CommandBerechnen(lauf.s);
+    zp::FeiertageBerechnen(lauf.s, lauf.ui);
     return true;
 }
 

@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QGuiApplication>
+#include <QMessageBox>
 #include <cstdio>
 #include <cstdlib>
 
@@ -34,7 +35,16 @@ int main(int argc, char** argv) {
 
     QApplication app(argc, argv);
     zp::AppState s;
-    zp::BatchOberflaeche startmeldungen; // before the window exists, messages go to stderr
+    // Before the window exists, messages go to stderr and into a message box of their own.
+    struct Startmeldungen : zp::BatchOberflaeche {
+        void Meldung(const QString& text, const QString& titel, const QString& detail) override {
+            BatchOberflaeche::Meldung(text, titel, detail);
+            QMessageBox box(titel == u"Hinweis" ? QMessageBox::Information : QMessageBox::Warning, titel,
+                            text);
+            box.setInformativeText(detail);
+            box.exec();
+        }
+    } startmeldungen;
     const QString ordner = zp::WaehleProgrammordner(zeile->programmpfad, zeile->edition);
     if (!zp::RichteProgrammordnerEin(ordner, zeile->edition, zp::MitgelieferteDaten(), &fehler)) {
         zp::MeldeFehler(fehler);

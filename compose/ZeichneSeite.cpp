@@ -159,7 +159,8 @@ void ZeichneRahmen(AppState& s, Canvas& ziel, Canvas* seite, int n) {
 void ZeichneSchnitthilfen(AppState& s, Canvas& drucker) {
     const ClassEtikett& e = s.AktuellesEtikett;
     const bool art = An(s.IstEtikett) || An(s.IstVisitenkarte) || (An(s.IstKalender) && s.Kalendertyp == 3);
-    if (!art) return;
+    const bool cd = An(s.IstCDHuelle);
+    if (!art && !cd) return;
     const Massstab g = Massstab::Geraet(s);
     const double fx = g.PixelJeZehntelX(), fy = g.PixelJeZehntelY();
     auto px = [&](double v) { return gdi::Lng(std::trunc(v * fx)); };
@@ -173,7 +174,10 @@ void ZeichneSchnitthilfen(AppState& s, Canvas& drucker) {
         drucker.FontTransparent = true;
         drucker.SetBkMode(true);
         const int w = px(e.Breite), h = py(e.Höhe);
-        drucker.Polyline({{0, 0}, {w, 0}, {w, h}, {0, h}, {0, 0}});
+        if (cd && e.Form == 1)
+            drucker.Ellipse(0, 0, w, h); // a CD label is cut along its circle
+        else
+            drucker.Polyline({{0, 0}, {w, 0}, {w, h}, {0, h}, {0, 0}});
         drucker.DrawStyle = 0;
     }
     if (e.Schnittmarken != 0) {
@@ -287,7 +291,7 @@ void ZeichneSeite(AppState& s, Zeichenziele& ziele) {
     if (drucken && ziel) ZeichneSchnitthilfen(s, *ziel);
 
     // 11. The round label's outline.
-    if (!drucken && An(s.IstEtikett) && s.AktuellesEtikett.Form == 1 && seite) {
+    if (!drucken && (An(s.IstEtikett) || An(s.IstCDHuelle)) && s.AktuellesEtikett.Form == 1 && seite) {
         seite->FillStyle = 1;
         seite->Circle(seite->Width() / 2, seite->Height() / 2, seite->Width() / 2, 0);
         seite->FillStyle = 0;

@@ -2,29 +2,52 @@
 
 #include "calendar/data/Kalenderdateien.h"
 #include "calendar/data/Kalendertypen.h"
+#include "core/Befehlsrahmen.h"
 #include "core/Sitzung.h"
-#include "core/Start.h"
+#include "core/runtime/TextDatei.h"
 #include "core/state/AppState.h"
 #include "persist/Datensaetze.h"
 #include "persist/Design.h"
 #include "persist/Einstellungen.h"
 #include "persist/Katalogdateien.h"
+#include "persist/Unlesbar.h"
+#include "persist/Zusatzeinstellungen.h"
 
 namespace zp {
 
-bool BeendenDateienSchreiben(AppState& s, Oberflaeche& ui) {
+bool Beenden(AppState& s, Oberflaeche& ui) {
+    // A file that can't be read is moved aside before its new one is written; one that can't be
+    // moved is left alone. The user hears once, when the exit is done.
+    Defektsicherung sicherung(ui);
+    bool ok = true;
+    const auto schreibe = [&](const QString& pfad, qint64 groesste, const Lesepruefung& lesbar,
+                              auto&& speichern) {
+        ok = sicherung.Frei(pfad, groesste, lesbar) && Sicher(ui, speichern) && ok;
+    };
+    const QString& ordner = s.Programmpfad;
     // First, while Datendatei and AktuelleDatei still name the user's files.
-    bool ok = SitzungSichern(s, ui);
-    if (s.IstVisitenkarte != 0) ok = SpeichereDatensaetze(s, ui) && ok;
-    ok = SaveSettings(s, ui) && ok;
+    // The session's keys and the calendar's extras share zusatz.ini: one write.
+    const Zusatzwerte kalender = s.IstKalender != 0 ? Kalenderzusatzwerte(s) : Zusatzwerte{};
+    ok = Sicher(ui, [&] { return SitzungSichern(s, ui, kalender); }) && ok;
+    if (s.IstVisitenkarte != 0)
+        schreibe(ordner + QStringLiteral("daten.dat"), GroessteDatei, LesbarAlsDatenbank,
+                 [&] { return SpeichereDatensaetze(s, ui); });
+    schreibe(ordner + QStringLiteral("zp.ini"), GroessteKleineDatei, LesbarAlsEinstellungen,
+             [&] { return SaveSettings(s, ui); });
     if (s.IstKalender != 0) {
-        ok = SaveKalenderIni(s, ui) && ok;
-        ok = SpeichereAutoDaten(s, ui) && ok; // the day data's safety copy auto.zpd
+        schreibe(ordner + QStringLiteral("kalender.ini"), GroessteKleineDatei, LesbarAlsKalenderIni,
+                 [&] { return SaveKalenderIni(s, ui); });
+        // the day data's safety copy auto.zpd, never the user's file
+        ok = Sicher(ui, [&] { return SpeichereAutoDaten(s, ui); }) && ok;
         // The calendar's design goes back to the working design of its type and variant.
         s.AktuelleDatei = Designdatei(s);
-        ok = SaveDesign(s, ui) && ok;
+        schreibe(
+            s.AktuelleDatei, GroessteDatei, [&s](const QByteArray& b) { return LesbarAlsDesign(s, b); },
+            [&] { return SaveDesign(s, ui); });
     }
-    if (s.IstEtikett != 0) ok = SaveKartenformate(s, ui) && ok;
+    if (s.IstEtikett != 0)
+        schreibe(ordner + QStringLiteral("etikett.ini"), GroessteKleineDatei, LesbarAlsKartenformate,
+                 [&] { return SaveKartenformate(s, ui); });
     return ok;
 }
 

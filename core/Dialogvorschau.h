@@ -1,6 +1,6 @@
 #pragma once
 // The preview boxes of the text and shape dialogs: the object drawn by the page's own renderer,
-// at its true size, in a box of the given pixel size. The state's preview mode is on only while
+// at its true size where it fits, in a box of the given pixel size. The state's preview mode is on only while
 // the box is drawn.
 
 #include <QImage>
@@ -11,7 +11,8 @@ struct AppState;
 struct ClassSchrift;
 struct ClassLinie;
 
-// The text centred in the box, turned, spaced, shadowed and graded as on the page.
+// The text centred in the box, turned, spaced, shadowed and graded as on the page; a text larger
+// than the box is shown smaller, so that it stays whole.
 [[nodiscard]] QImage Schriftvorschau(AppState& s, ClassSchrift schrift, QSize pixel);
 
 // The shape in the box less a margin of 100 twips on each side.

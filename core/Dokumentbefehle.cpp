@@ -1,10 +1,12 @@
 #include "core/Dokumentbefehle.h"
 
-#include "calendar/data/Kalendertypen.h"
-#include "core/Dokumentdienste.h"
+#include "calendar/data/Kalenderdateien.h"
+#include "calendar/data/Tagesdaten.h"
+#include "core/Befehlsrahmen.h"
 #include "core/Seitennavigation.h"
 #include "core/state/AppState.h"
 #include "core/state/Oberflaeche.h"
+#include "persist/Design.h"
 
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -14,15 +16,6 @@ namespace zp {
 
 namespace {
 
-// A file kind whose reader or writer this build lacks is told, so that nothing looks saved or
-// loaded that isn't.
-bool Vorhanden(const Dienst& dienst, Oberflaeche& ui, const QString& datei) {
-    if (dienst) return true;
-    ui.Meldung(QStringLiteral("Diese Dateiart kann in dieser Programmversion nicht verarbeitet werden."),
-               QStringLiteral("Warnung!"), datei);
-    return false;
-}
-
 // The last three letters of a name: they decide what the calendar loads or saves.
 QString Endung(const QString& name) {
     return name.right(3);
@@ -30,12 +23,11 @@ QString Endung(const QString& name) {
 
 // Loads the design while the controls' change handlers stand still, then brings the panel and
 // the selection up to date at once.
-void LadeDesignInsFenster(AppState& s, Oberflaeche& ui, const Dokumentdienste& d) {
+void LadeDesignInsFenster(AppState& s, Oberflaeche& ui) {
     s.LadeSperre = 255;
-    DienstAusfuehren(d.LoadDesign, s, ui);
+    Sicher(ui, [&] { return LoadDesign(s, ui); });
     s.LadeSperre = 0;
-    ui.PanelAktualisieren();
-    ui.AuswahlAktualisieren();
+    ui.Geaendert(Aenderung::Panel | Aenderung::Auswahl);
 }
 
 } // namespace
@@ -88,22 +80,22 @@ QString StatusDateitext(const QString& pfad) {
     return QStringLiteral("Aktuelle Datei: ") + pfad;
 }
 
-bool BefehlNeu(AppState& s, Oberflaeche& ui, const Dokumentdienste& d) {
+bool BefehlNeu(AppState& s, Oberflaeche& ui) {
     if (s.IstKalender != 0) {
         // The calendar's New empties the day data; the design stays.
-        if (!DienstAusfuehren(d.KalenderNeu, s, ui)) return false;
+        if (!KalenderdatenNeu(s, ui)) return false;
         ui.Neuzeichnen();
         return true;
     }
     if (!ui.Frage(QStringLiteral("Sollen die aktuellen Daten gelöscht werden?"), QStringLiteral("Neu")))
         return false;
     s.Ladevorgabe = QStringLiteral("neu");
-    LadeDesignInsFenster(s, ui, d);
+    LadeDesignInsFenster(s, ui);
     ui.Neuzeichnen();
     return true;
 }
 
-bool BefehlOeffnen(AppState& s, Oberflaeche& ui, const Dokumentdienste& d) {
+bool BefehlOeffnen(AppState& s, Oberflaeche& ui) {
     const QString name =
         ui.DateiWaehlen(QStringLiteral("Öffnen"), Dateifilter(s, Dateidialog::Oeffnen), false);
     if (name.isEmpty()) return false;
@@ -117,35 +109,35 @@ bool BefehlOeffnen(AppState& s, Oberflaeche& ui, const Dokumentdienste& d) {
     const QString designVorher = s.AktuelleDatei;
     const QString datenVorher = s.Datendatei;
     const QString statusVorher = s.IstKalender != 0 ? s.Datendatei : s.AktuelleDatei;
-    const auto laden = [&](QString& ziel, const Dienst& dienst) {
-        if (!Vorhanden(dienst, ui, name)) return false;
+    const auto laden = [&](QString& ziel, auto&& lesen) {
         ziel = name;
-        return DienstAusfuehren(dienst, s, ui);
+        return Sicher(ui, lesen);
     };
+    const auto design = [&] { return LoadDesign(s, ui); };
     s.LadeSperre = 255;
     bool geladen = false;
     if (s.IstKalender == 0) {
         // Old label formats go the same way: the loader decides by the file.
-        geladen = laden(s.AktuelleDatei, d.LoadDesign);
+        geladen = laden(s.AktuelleDatei, design);
     } else {
         const QString endung = Endung(name).toLower();
         if (endung == QLatin1String("zpk")) {
-            geladen = laden(s.AktuelleDatei, d.LoadDesign);
+            geladen = laden(s.AktuelleDatei, design);
             if (geladen) {
                 // The design may bring another type: the page comes back into its range.
                 Seitenbereich(s);
                 ui.SeitentitelAktualisieren();
             }
         } else if (endung == QLatin1String("zpd")) {
-            geladen = laden(s.Datendatei, d.LadeDaten);
+            geladen = laden(s.Datendatei, [&] { return LadeDaten(s, ui) == Ladeergebnis::Geladen; });
         } else if (endung == QLatin1String("kal")) {
-            geladen = laden(s.Datendatei, d.ImportKal);
+            geladen =
+                laden(s.Datendatei, [&] { return KalOeffnen(s, ui, s.Datendatei) == Ladeergebnis::Geladen; });
         }
     }
     if (geladen) {
         ui.StatusDatei(s.IstKalender != 0 ? s.Datendatei : s.AktuelleDatei);
-        ui.PanelAktualisieren();
-        ui.AuswahlAktualisieren();
+        ui.Geaendert(Aenderung::Panel | Aenderung::Auswahl);
     } else {
         s.AktuelleDatei = designVorher;
         s.Datendatei = datenVorher;
@@ -156,47 +148,29 @@ bool BefehlOeffnen(AppState& s, Oberflaeche& ui, const Dokumentdienste& d) {
     return true;
 }
 
-bool BefehlSpeichern(AppState& s, Oberflaeche& ui, const Dokumentdienste& d) {
-    bool gut = DienstAusfuehren(d.SaveDesign, s, ui);
-    if (s.IstKalender != 0) gut = DienstAusfuehren(d.SpeichereDaten, s, ui) && gut;
+bool BefehlSpeichern(AppState& s, Oberflaeche& ui) {
+    bool gut = Sicher(ui, [&] { return SaveDesign(s, ui); });
+    if (s.IstKalender != 0) gut = Sicher(ui, [&] { return SpeichereDaten(s, ui); }) && gut;
     return gut;
 }
 
-bool BefehlSpeichernUnter(AppState& s, Oberflaeche& ui, const Dokumentdienste& d, Dateidialog art) {
+bool BefehlSpeichernUnter(AppState& s, Oberflaeche& ui, Dateidialog art) {
     const QString name = ui.DateiWaehlen(QStringLiteral("speichern"), Dateifilter(s, art), true);
     if (name.isEmpty()) return false;
     // Exact comparison: a data ending typed in capitals saves a design under that name.
     if (s.IstKalender != 0 && Endung(name) == QLatin1String("zpd")) {
-        if (!Vorhanden(d.SpeichereDaten, ui, name)) return false;
         s.Datendatei = name;
-        const bool gut = DienstAusfuehren(d.SpeichereDaten, s, ui);
+        const bool gut = Sicher(ui, [&] { return SpeichereDaten(s, ui); });
         ui.StatusDatei(s.Datendatei);
         return gut;
     }
-    if (!Vorhanden(d.SaveDesign, ui, name)) return false;
     s.AktuelleDatei = name;
-    const bool gut = DienstAusfuehren(d.SaveDesign, s, ui);
+    const bool gut = Sicher(ui, [&] { return SaveDesign(s, ui); });
     ui.StatusDatei(s.AktuelleDatei);
     return gut;
 }
 
-void Beenden(AppState& s, Oberflaeche& ui, const Dokumentdienste& d) {
-    // First, while Datendatei and AktuelleDatei still name the user's files.
-    DienstAusfuehren(d.SitzungSichern, s, ui);
-    if (s.IstVisitenkarte != 0) DienstAusfuehren(d.SpeichereDatensaetze, s, ui);
-    DienstAusfuehren(d.SaveSettings, s, ui);
-    if (s.IstKalender != 0) {
-        DienstAusfuehren(d.SaveKalenderIni, s, ui);
-        // The day data go to auto.zpd, never over the file the user opened.
-        s.Datendatei = s.Programmpfad + QStringLiteral("auto.zpd");
-        DienstAusfuehren(d.SpeichereDaten, s, ui);
-        s.AktuelleDatei = Designdatei(s);
-        DienstAusfuehren(d.SaveDesign, s, ui);
-    }
-    if (s.IstEtikett != 0) DienstAusfuehren(d.SaveKartenformate, s, ui);
-}
-
-void GalerieLaden(AppState& s, Oberflaeche& ui, const Dokumentdienste& d, int zeile) {
+void GalerieLaden(AppState& s, Oberflaeche& ui, int zeile) {
     if (s.IstVisitenkarte == 0 || zeile < 0) return;
     const QString gemerkt = s.AktuelleDatei;
     s.AktuelleDatei =
@@ -204,7 +178,7 @@ void GalerieLaden(AppState& s, Oberflaeche& ui, const Dokumentdienste& d, int ze
     if (QFileInfo::exists(s.AktuelleDatei)) {
         // Loaded as a template: the card's layout comes, the texts in the panel stay.
         s.Ladevorgabe = s.AktuelleDatei;
-        LadeDesignInsFenster(s, ui, d);
+        LadeDesignInsFenster(s, ui);
         s.Ladevorgabe.clear();
     }
     ui.Neuzeichnen();

@@ -1,6 +1,6 @@
 #pragma once
 // The document commands of the main window: New, Open, Save, Save As (two filter orders), the
-// design gallery of the business cards and the end of the program. No command asks whether to
+// design gallery of the business cards. No command asks whether to
 // save: there is no modified state, and the end of the program writes everything by itself.
 
 #include <QString>
@@ -8,7 +8,6 @@
 namespace zp {
 struct AppState;
 class Oberflaeche;
-struct Dokumentdienste;
 
 enum class Dateidialog { Oeffnen, SpeichernUnter, SpeichernUnter2 };
 
@@ -27,19 +26,16 @@ enum class Dateidialog { Oeffnen, SpeichernUnter, SpeichernUnter2 };
 
 // mnuFileNew: asks, then loads the built-in new document, or in the calendar empties the day
 // data. Returns false when the user said No.
-bool BefehlNeu(AppState& s, Oberflaeche& ui, const Dokumentdienste& d);
+bool BefehlNeu(AppState& s, Oberflaeche& ui);
 // mnuFileOpen: asks for a file through the window, then loads it by the edition's rules.
 // Returns false when nothing was chosen.
-bool BefehlOeffnen(AppState& s, Oberflaeche& ui, const Dokumentdienste& d);
+bool BefehlOeffnen(AppState& s, Oberflaeche& ui);
 // mnuFileSave: the design, and in the calendar the day data. A failed write is told, never fatal.
-bool BefehlSpeichern(AppState& s, Oberflaeche& ui, const Dokumentdienste& d);
+bool BefehlSpeichern(AppState& s, Oberflaeche& ui);
 // mnuFileSaveAs and mnuFileSaveAs2: they differ only in the order of the filter.
-bool BefehlSpeichernUnter(AppState& s, Oberflaeche& ui, const Dokumentdienste& d, Dateidialog art);
-// Close, Exit and the window's close button: writes records, settings and the edition's files.
-// The window then ends the program.
-void Beenden(AppState& s, Oberflaeche& ui, const Dokumentdienste& d);
+bool BefehlSpeichernUnter(AppState& s, Oberflaeche& ui, Dateidialog art);
 // A click on gallery row `zeile` (from 0): loads daten/design<zeile + 1>.zpv as a template and
 // keeps AktuelleDatei, so that the next Save doesn't overwrite the gallery file.
-void GalerieLaden(AppState& s, Oberflaeche& ui, const Dokumentdienste& d, int zeile);
+void GalerieLaden(AppState& s, Oberflaeche& ui, int zeile);
 
 } // namespace zp

@@ -1,15 +1,18 @@
 #include "Formatbefehle.h"
 
+#include "core/Auswahl.h"
 #include "core/Positionsdialog.h"
+#include "core/Rahmenbefehle.h"
 #include "core/state/AppState.h"
 #include "core/state/Oberflaeche.h"
+#include "core/state/Verlauf.h"
 
 namespace zp {
 
 namespace {
 ClassRahmen* Rahmen(AppState& s) {
     const int n = static_cast<int>(s.RahmenNummer);
-    if (n < 1 || !s.Rahmenliste.Gueltig(n)) return nullptr;
+    if (n < 1 || n > s.RahmenAnzahl || !s.Rahmenliste.Gueltig(n)) return nullptr;
     return &s.Rahmenliste(n);
 }
 
@@ -32,6 +35,7 @@ ClassSchrift* SchriftDesRahmens(AppState& s) {
 Formatzustand UpdateFormatBar(AppState& s) {
     Formatzustand z;
     if (const ClassRahmen* r = Rahmen(s)) {
+        z.Rahmen = true;
         z.Gesperrt = r->Verankert != 0;
         z.Linie = r->Objekttyp == QLatin1String("Linie");
     }
@@ -80,14 +84,14 @@ bool Toolbar3Knopf(AppState& s, Oberflaeche& ui, const QString& schluessel) {
         return true;
     }
     if (schluessel == u"gesperrt") {
-        r->Verankert = Umgekehrt(r->Verankert);
+        VerankernUmschalten(s, ui);
         ui.FormatleisteAktualisieren();
-        ui.Neuzeichnen();
         return true;
     }
 
     ClassSchrift* t = SchriftDesRahmens(s);
     if (!t) return false;
+    VerlaufMerken(s); // a style or alignment is one step of Rückgängig
     if (schluessel == u"fett")
         t->Bold = Umgekehrt(t->Bold);
     else if (schluessel == u"italic")
@@ -106,8 +110,10 @@ bool Toolbar3Knopf(AppState& s, Oberflaeche& ui, const QString& schluessel) {
         t->AusrichtungV = 1;
     else if (schluessel == u"textunten")
         t->AusrichtungV = 2;
-    else
+    else {
+        VerlaufZuruecknehmen(s);
         return false;
+    }
     ui.FormatleisteAktualisieren();
     ui.Neuzeichnen();
     return true;
@@ -118,6 +124,7 @@ bool SchriftartSetzen(AppState& s, Oberflaeche& ui, const QString& familie) {
     ClassSchrift* t = SchriftDesRahmens(s);
     const QString name = familie.trimmed();
     if (!t || name.isEmpty()) return false;
+    if (t->fontname != name) VerlaufMerken(s);
     t->fontname = name;
     ui.Neuzeichnen();
     return true;
@@ -134,9 +141,28 @@ bool SchriftgroesseSetzen(AppState& s, Oberflaeche& ui, const QString& eingabe) 
         ui.FormatleisteAktualisieren();
         return false;
     }
+    if (t->FontSize != groesse) VerlaufMerken(s);
     t->FontSize = groesse;
     ui.Neuzeichnen();
     return true;
+}
+
+bool TextfeldFokus(AppState& s, Oberflaeche& ui, int i, bool nachKlick) {
+    if (s.Auswahlmodus != 0 || nachKlick || i < 1) return false;
+    s.LadeSperre = 255;
+    s.SchriftNummer = i;
+    s.RahmenNummer = i;
+    UpdateSelection(s, ui);
+    s.LadeSperre = 0;
+    ui.Neuzeichnen();
+    return true;
+}
+
+bool AuswahlZeigtText(const AppState& s, int i) {
+    const int n = static_cast<int>(s.RahmenNummer);
+    if (n < 1 || n > s.RahmenAnzahl || !s.Rahmenliste.Gueltig(n)) return false;
+    const ClassRahmen& r = s.Rahmenliste(n);
+    return r.Objekttyp == QLatin1String("Schrift") && static_cast<int>(r.Objektnummer) == i;
 }
 
 void OpenPropertyDialog(AppState& s, Oberflaeche& ui, int seite) {

@@ -10,6 +10,7 @@ class Oberflaeche;
 
 // What the bar shows for the current frame. The text keys and lists are only live on a text.
 struct Formatzustand {
+    bool Rahmen = false;  // there is a current frame
     bool Schrift = false; // the current frame is a text
     bool Linie = false;   // a shape: only colour and shadow of the text keys apply
     bool Fett = false;
@@ -39,6 +40,15 @@ bool SchriftartSetzen(AppState& s, Oberflaeche& ui, const QString& familie);
 // Combo3: the size, picked or typed. A size that can't be read or lies outside 1 to 1000 points
 // is told to the user and changes nothing.
 bool SchriftgroesseSetzen(AppState& s, Oberflaeche& ui, const QString& eingabe);
+
+// Text1 focus on box i: unless a frame is being drawn or the focus follows a click on the page
+// (`nachKlick`, whose selection must stay), the box's text object and frame become the current
+// ones, the selection follows and the page shows the handles. Returns whether the frame changed.
+bool TextfeldFokus(AppState& s, Oberflaeche& ui, int i, bool nachKlick);
+
+// Whether the current frame already shows text object i: the focus that a click on it moves to
+// box i must then leave the clicked frame current.
+[[nodiscard]] bool AuswahlZeigtText(const AppState& s, int i);
 
 // OpenPropertyDialog: the current frame becomes visible and the dialog of its kind opens on
 // `seite` (1 first). A letter body has no dialog here.

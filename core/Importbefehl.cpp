@@ -24,10 +24,12 @@ bool Importieren(AppState& s, Oberflaeche& ui, const QString& datei) {
     const QString endung = datei.right(3);
     const bool txt = endung == u"txt";
     if (!txt && endung != u"eti") return false;
-    if (!QFileInfo(datei).isFile()) return false;
-    const auto bytes = LeseDatei(datei);
+    if (!QFileInfo::exists(datei)) return false; // the file dialog offers only files that are there
+    QString grund;
+    const auto bytes = LeseDatei(datei, GroessteDatei, &grund);
     if (!bytes) {
-        ui.Meldung(QStringLiteral("Die Datei kann nicht gelesen werden."), QStringLiteral("Warnung!"), datei);
+        ui.Meldung(QStringLiteral("Die Datei kann nicht gelesen werden."), QStringLiteral("Warnung!"),
+                   datei + QStringLiteral(": ") + grund);
         return false;
     }
 

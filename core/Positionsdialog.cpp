@@ -1,8 +1,10 @@
 #include "Positionsdialog.h"
 
+#include "core/Auswahl.h"
 #include "core/runtime/Basic.h"
 #include "core/state/AppState.h"
 #include "core/state/Oberflaeche.h"
+#include "core/state/Verlauf.h"
 
 #include <cmath>
 
@@ -99,6 +101,7 @@ bool PositionsdialogOk(AppState& s, Oberflaeche& ui, Positionsfelder f) {
     }
     for (int nummer = 1; nummer <= 4; ++nummer)
         PositionsfeldReparieren(f, nummer, s.AktuelleSeite);
+    if (s.Auswahlmodus == 0) VerlaufMerken(s); // while inserting, the insertion's step holds it
     r->X = Positionszahl(f.Text1);
     r->Y = Positionszahl(f.Text2);
     r->Breite = Positionszahl(f.Text3);
@@ -106,7 +109,7 @@ bool PositionsdialogOk(AppState& s, Oberflaeche& ui, Positionsfelder f) {
     r->Proportional = basic::AlsWahrheit(f.Check1);
     r->Verankert = basic::AlsWahrheit(f.Check2);
     s.LadeSperre = 0;
-    ui.AuswahlAktualisieren();
+    UpdateSelection(s, ui); // the marker and the handles take the new box
     ui.Neuzeichnen();
     return true;
 }

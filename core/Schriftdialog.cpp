@@ -3,6 +3,7 @@
 #include "core/runtime/Basic.h"
 #include "core/state/AppState.h"
 #include "core/state/Oberflaeche.h"
+#include "core/state/Verlauf.h"
 
 namespace zp {
 
@@ -20,6 +21,7 @@ bool SchriftdialogOk(AppState& s, Oberflaeche& ui, const ClassSchrift& werk, con
     const int n = static_cast<int>(s.SchriftNummer);
     if (n < 1 || !s.Schriftliste.Gueltig(n)) return false;
 
+    if (s.Auswahlmodus == 0) VerlaufMerken(s); // while inserting, the insertion's step holds it
     // 1. The main window takes input again: the modal dialog has closed by now.
     // 2. The work copy replaces the list object, field by field.
     ClassSchrift& ziel = s.Schriftliste(n);

@@ -6,6 +6,7 @@
 #include "persist/Dateimeldungen.h"
 #include "persist/Design.h"
 #include "persist/Kalenderdaten.h"
+#include "persist/Zusatzeinstellungen.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -15,38 +16,47 @@ namespace zp {
 
 namespace {
 
-const QString SchluesselAn = QStringLiteral("Wiederherstellen");
-const QString SchluesselDatei = QStringLiteral("Datei");
+// Earlier builds kept the session's two keys in a file of their own, sitzung.ini ("key = value",
+// UTF-8). It is still read while zusatz.ini has no session keys; it is no longer written.
+const QString AlteSitzungsIni = QStringLiteral("sitzung.ini");
+const QString SchluesselAn = QStringLiteral("wiederherstellen");
+const QString SchluesselDatei = QStringLiteral("sitzungsdatei");
 
-// sitzung.ini: "key = value" lines in UTF-8, written by this program only.
 struct Sitzungsangaben {
     bool an = true;
     QString datei;
 };
 
-Sitzungsangaben LeseAngaben(const AppState& s) {
+Sitzungsangaben AlteAngaben(const AppState& s) {
     Sitzungsangaben a;
-    const auto bytes = LeseDatei(SitzungsIni(s));
+    const auto bytes = LeseDatei(s.Programmpfad + AlteSitzungsIni, GroessteKleineDatei);
     if (!bytes) return a;
     for (const QString& zeile : QString::fromUtf8(*bytes).split(QLatin1Char('\n'))) {
         const qsizetype gleich = zeile.indexOf(QLatin1Char('='));
         if (gleich < 0) continue;
         const QString schluessel = zeile.left(gleich).trimmed();
         const QString wert = zeile.mid(gleich + 1).trimmed();
-        if (schluessel == SchluesselAn) a.an = wert != QLatin1String("0");
-        if (schluessel == SchluesselDatei) a.datei = wert;
+        if (schluessel == QLatin1String("Wiederherstellen")) a.an = wert != QLatin1String("0");
+        if (schluessel == QLatin1String("Datei")) a.datei = wert;
     }
     return a;
 }
 
-bool SchreibeAngaben(const AppState& s, Oberflaeche& ui, const Sitzungsangaben& a) {
-    const QString text = SchluesselAn + QStringLiteral(" = ") + (a.an ? u'1' : u'0') +
-                         QStringLiteral("\r\n") + SchluesselDatei + QStringLiteral(" = ") + a.datei +
-                         QStringLiteral("\r\n");
-    QString fehler;
-    if (SchreibeDateiAtomar(SitzungsIni(s), text.toUtf8(), &fehler)) return true;
-    MeldeSchreibfehler(ui, SitzungsIni(s), fehler);
-    return false;
+Sitzungsangaben LeseAngaben(const AppState& s) {
+    const auto bytes =
+        QFileInfo(ZusatzDatei(s)).isFile() ? LeseDatei(ZusatzDatei(s), GroessteKleineDatei) : std::nullopt;
+    const auto an = bytes ? Zusatzwert(*bytes, SchluesselAn) : std::nullopt;
+    const auto datei = bytes ? Zusatzwert(*bytes, SchluesselDatei) : std::nullopt;
+    if (!an && !datei) return AlteAngaben(s);
+    return {!an || *an != QLatin1String("0"), datei.value_or(QString())};
+}
+
+bool SchreibeAngaben(const AppState& s, Oberflaeche& ui, const Sitzungsangaben& a,
+                     const Zusatzwerte& weitere = {}) {
+    Zusatzwerte werte = {{SchluesselAn, a.an ? QStringLiteral("1") : QStringLiteral("0")},
+                         {SchluesselDatei, a.datei}};
+    werte << weitere;
+    return ZusatzwerteSpeichern(s, ui, werte);
 }
 
 // A session file that can't be read is moved aside, so that the exit doesn't write over it.
@@ -98,10 +108,6 @@ bool DokumentZurueck(AppState& s, Oberflaeche& ui, const QString& gemerkt) {
 
 } // namespace
 
-QString SitzungsIni(const AppState& s) {
-    return s.Programmpfad + QStringLiteral("sitzung.ini");
-}
-
 QString SitzungsDokument(const AppState& s) {
     return s.Programmpfad + QStringLiteral("sitzung.zps");
 }
@@ -120,11 +126,11 @@ bool SitzungWiederherstellenSetzen(const AppState& s, Oberflaeche& ui, bool an) 
     return SchreibeAngaben(s, ui, a);
 }
 
-bool SitzungSichern(AppState& s, Oberflaeche& ui) {
+bool SitzungSichern(AppState& s, Oberflaeche& ui, const Zusatzwerte& weitere) {
     Sitzungsangaben a = LeseAngaben(s);
     const bool kalender = s.IstKalender != 0;
     a.datei = kalender ? s.Datendatei : s.AktuelleDatei;
-    bool ok = SchreibeAngaben(s, ui, a);
+    bool ok = SchreibeAngaben(s, ui, a, weitere);
     if (!kalender && a.an) {
         // The document goes to the session file; the user's own file is written by Save only.
         const QString gemerkt = s.AktuelleDatei;

@@ -1,8 +1,10 @@
 #pragma once
 // The last session: what the exit leaves behind and the next start brings back. The calendar
 // takes the day data of auto.zpd back; the other editions keep the whole document in a session
-// file of the program folder. A small file beside zp.ini, sitzung.ini, remembers which file the
-// user had and whether the session comes back at all (on unless switched off).
+// file of the program folder. The extra settings file zusatz.ini beside zp.ini remembers which
+// file the user had and whether the session comes back at all (on unless switched off).
+
+#include "persist/Zusatzeinstellungen.h"
 
 #include <QString>
 
@@ -11,19 +13,19 @@ namespace zp {
 struct AppState;
 class Oberflaeche;
 
-// sitzung.ini, the session design file, and the calendar's auto.zpd in the program folder.
-[[nodiscard]] QString SitzungsIni(const AppState& s);
+// The session design file and the calendar's auto.zpd in the program folder.
 [[nodiscard]] QString SitzungsDokument(const AppState& s);
 [[nodiscard]] QString AutoDaten(const AppState& s);
 
-// Whether the start brings the last session back. A folder without sitzung.ini says yes.
+// Whether the start brings the last session back. A folder that never said otherwise says yes.
 [[nodiscard]] bool SitzungWiederherstellenAn(const AppState& s);
 // Switches it on or off and keeps the remembered file. False (and told) when it can't be written.
 bool SitzungWiederherstellenSetzen(const AppState& s, Oberflaeche& ui, bool an);
 
 // Exit, before anything else is written: remembers the file the user works on (the calendar's
 // data file, else the design) and, outside the calendar, writes the document to the session file.
-bool SitzungSichern(AppState& s, Oberflaeche& ui);
+// `weitere` keys of zusatz.ini go into the same write.
+bool SitzungSichern(AppState& s, Oberflaeche& ui, const Zusatzwerte& weitere = {});
 
 // Start, after the edition's empty state has been set up. Calendar: the day data of auto.zpd
 // (appointments, holidays, colours, month pictures, title and footer) come back and Datendatei

@@ -2,8 +2,10 @@
 
 #include "calendar/data/Kalendertypen.h"
 #include "core/Datensatzbefehle.h"
+#include "core/Programmordner.h"
 #include "core/Sitzung.h"
 #include "core/runtime/Basic.h"
+#include "core/runtime/Dateischreiber.h"
 #include "core/state/AppState.h"
 #include "core/state/Massstab.h"
 #include "core/state/Oberflaeche.h"
@@ -12,7 +14,9 @@
 #include "persist/Design.h"
 #include "persist/Einstellungen.h"
 #include "persist/Katalogdateien.h"
+#include "persist/Zusatzeinstellungen.h"
 
+#include <QFileInfo>
 #include <QFont>
 #include <QFontDatabase>
 #include <QFontInfo>
@@ -174,12 +178,32 @@ void Main(AppState& s, const QString& programmpfad, Oberflaeche& ui) {
     s.GitterAn = 0;
     s.RahmenAnzeigen = 0;
 
-    // 13. and 14. Settings, then the edition they name.
-    LoadSettings(s, ui);
+    // 13. and 14. Settings, then the edition they name. Before them, what a save cut off by a
+    // crash or kill left behind goes: the files themselves are whole, old or new.
+    RaeumeZwischendateienAuf(s, ui);
+    if (!LoadSettings(s, ui) && s.Programmname.isEmpty()) {
+        // Settings that could not be read name no edition: the folder's name may, as the
+        // per-user folders are named by their edition.
+        const QString edition = NormaleEdition(QFileInfo(s.Programmpfad.chopped(1)).fileName());
+        if (!edition.isEmpty()) {
+            s.Programmname = ProgrammnameDerEdition(edition);
+            ui.Statusmeldung(
+                QStringLiteral("Die Ausgabe „%1“ wurde nach dem Namen des Programmordners gewählt.")
+                    .arg(edition));
+        }
+    }
     SetzeEditionsflags(s);
 
     // 15. Normal pointer; the window comes next.
     ui.Mauszeiger(0);
+}
+
+void RaeumeZwischendateienAuf(const AppState& s, Oberflaeche& ui) {
+    QStringList entfernt = EntferneZwischendateien(s.Programmpfad);
+    entfernt += EntferneZwischendateien(s.Programmpfad + QStringLiteral("daten"));
+    if (!entfernt.isEmpty())
+        ui.Statusmeldung(QStringLiteral("Unfertige Dateien eines abgebrochenen Speicherns entfernt: %1")
+                             .arg(entfernt.join(QStringLiteral(", "))));
 }
 
 void SetzeEditionsflags(AppState& s) {
@@ -244,6 +268,7 @@ bool LadeStartzustand(AppState& s, Oberflaeche& ui) {
         // The day data of the last session, unless switched off; the design comes with the type.
         SitzungWiederherstellen(s, ui);
         LoadKalenderIni(s, ui);
+        LadeZusatzeinstellungen(s, ui);
         // The month views cover the calendar year; a date outside it moves in first.
         const int jahr = std::clamp(static_cast<int>(s.Kalenderjahr), 100, 9999);
         for (Monatsansicht* ansicht : {&s.Panel.MonthView1, &s.Panel.MonthView2}) {

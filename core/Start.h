@@ -15,6 +15,10 @@ class Oberflaeche;
 // `programmpfad` is the program folder; a "/" is appended when missing.
 void Main(AppState& s, const QString& programmpfad, Oberflaeche& ui);
 
+// Removes the unfinished files of saves that a crash or kill cut off, in the program folder and
+// its "daten" folder, and names them in the status bar.
+void RaeumeZwischendateienAuf(const AppState& s, Oberflaeche& ui);
+
 // Sets exactly one edition flag from `Programmname` (exact, case-sensitive), or none.
 void SetzeEditionsflags(AppState& s);
 

@@ -1,4 +1,5 @@
 #include "Formatleiste.h"
+#include "Formatsymbole.h"
 
 #include "core/Formatbefehle.h"
 #include "core/state/AppState.h"
@@ -16,40 +17,42 @@ namespace zp {
 namespace {
 struct Knopfdaten {
     const char* schluessel;
-    const char* titel;  // tool tip and accessible name
-    const char* kurz;   // shown when the icon theme has no icon
-    const char* symbol; // freedesktop icon name
+    const char* titel;  // caption, tool tip and accessible name
+    const char* symbol; // freedesktop icon name, tried before the bar's own picture
     bool umschalter;
+    const char* taste = ""; // shortcut, as the German word processors have it
 };
 
 // In the order of the bar; an empty key is a separator.
 constexpr Knopfdaten kKnoepfe[] = {
-    {"fett", "Fett", "F", "format-text-bold", true},
-    {"italic", "Kursiv", "K", "format-text-italic", true},
-    {"underline", "Unterstrichen", "U", "format-text-underline", true},
-    {"", "", "", "", false},
-    {"links", "Linksbündig", "⇤", "format-justify-left", true},
-    {"center", "Zentriert", "↔", "format-justify-center", true},
-    {"rechts", "Rechtsbündig", "⇥", "format-justify-right", true},
-    {"", "", "", "", false},
-    {"textoben", "Oben ausrichten", "⤒", "go-top", true},
-    {"textcenter", "Mittig ausrichten", "↕", "format-justify-fill", true},
-    {"textunten", "Unten ausrichten", "⤓", "go-bottom", true},
-    {"", "", "", "", false},
-    {"farbe", "Farbe", "Farbe", "format-text-color", false},
-    {"schatten", "Schatten", "Schatten", "", false},
-    {"winkel", "Winkel", "Winkel", "object-rotate-left", false},
-    {"", "", "", "", false},
-    {"positionieren", "Positionieren", "Position", "transform-move", false},
-    {"löschen", "Löschen", "Löschen", "edit-delete", false},
-    {"gesperrt", "Verankert (gesperrt)", "Anker", "object-locked", true},
+    {"fett", "Fett", "format-text-bold", true, "Ctrl+Shift+F"},
+    {"italic", "Kursiv", "format-text-italic", true, "Ctrl+Shift+K"},
+    {"underline", "Unterstrichen", "format-text-underline", true, "Ctrl+Shift+U"},
+    {"", "", "", false},
+    {"links", "Linksbündig", "format-justify-left", true},
+    {"center", "Zentriert", "format-justify-center", true},
+    {"rechts", "Rechtsbündig", "format-justify-right", true},
+    {"", "", "", false},
+    {"textoben", "Oben ausrichten", "", true},
+    {"textcenter", "Mittig ausrichten", "", true},
+    {"textunten", "Unten ausrichten", "", true},
+    {"", "", "", false},
+    {"farbe", "Farbe", "format-text-color", false},
+    {"schatten", "Schatten", "", false},
+    {"winkel", "Winkel", "object-rotate-left", false},
+    {"", "", "", false},
+    {"positionieren", "Positionieren", "transform-move", false},
+    {"löschen", "Löschen", "edit-delete", false},
+    {"gesperrt", "Verankert (gesperrt)", "object-locked", true},
 };
+
 } // namespace
 
 Formatleiste::Formatleiste(AppState& zustand, Oberflaeche& oberflaeche, QWidget* eltern)
     : QToolBar(QStringLiteral("Format"), eltern), s(zustand), ui(oberflaeche) {
     setObjectName(QStringLiteral("Toolbar3"));
     setMovable(false);
+    setIconSize(QSize(20, 20));
 
     m_combo1 = new QComboBox(this);
     m_combo1->setObjectName(QStringLiteral("Combo1"));
@@ -77,11 +80,16 @@ Formatleiste::Formatleiste(AppState& zustand, Oberflaeche& oberflaeche, QWidget*
             addSeparator();
             continue;
         }
-        const QIcon symbol = QIcon::fromTheme(QString::fromUtf8(k.symbol));
-        auto* a = new QAction(symbol, QString::fromUtf8(symbol.isNull() ? k.kurz : k.titel), this);
+        auto* a = new QAction(Formatsymbol(schluessel, QString::fromUtf8(k.symbol)),
+                              QString::fromUtf8(k.titel), this);
         a->setObjectName(QStringLiteral("Toolbar3_") + schluessel);
         a->setToolTip(QString::fromUtf8(k.titel));
         a->setCheckable(k.umschalter);
+        if (*k.taste) {
+            a->setShortcut(QKeySequence(QString::fromLatin1(k.taste)));
+            a->setToolTip(QStringLiteral("%1 (%2)").arg(a->toolTip(),
+                                                        a->shortcut().toString(QKeySequence::NativeText)));
+        }
         if (schluessel == u"links" || schluessel == u"center" || schluessel == u"rechts")
             waagerecht->addAction(a);
         if (schluessel.startsWith(u"text")) senkrecht->addAction(a);
@@ -89,12 +97,6 @@ Formatleiste::Formatleiste(AppState& zustand, Oberflaeche& oberflaeche, QWidget*
         m_knoepfe.insert(schluessel, a);
         connect(a, &QAction::triggered, this, [this, schluessel] { Geklickt(schluessel); });
     }
-    if (QAction* fett = m_knoepfe.value(QStringLiteral("fett"))) {
-        QFont f = font();
-        f.setBold(true);
-        fett->setFont(f);
-    }
-
     connect(m_combo1, &QComboBox::textActivated, this, [this](const QString& name) {
         if (SchriftartSetzen(s, ui, name)) Aktualisieren();
     });
@@ -109,6 +111,7 @@ void Formatleiste::ListenFuellen() {
     const uint8_t sperre = s.LadeSperre;
     s.LadeSperre = 255;
     m_combo1->clear();
+    m_fremd.clear();
     for (int i = 1; i <= s.Schriftenliste.Obergrenze(); ++i) {
         const QString& name = s.Schriftenliste(i);
         if (name == QLatin1String("-1")) break;
@@ -127,12 +130,12 @@ void Formatleiste::Aktualisieren() {
     m_combo1->setEnabled(z.Schrift);
     m_combo3->setEnabled(z.Schrift);
     // Position, deletion and anchor serve every frame; colour and shadow texts and shapes; the
-    // rest only texts.
+    // rest only texts. Without a current frame there is nothing to format.
     for (auto it = m_knoepfe.cbegin(); it != m_knoepfe.cend(); ++it) {
         const QString& k = it.key();
         bool an = z.Schrift;
         if (k == u"farbe" || k == u"schatten") an = z.Schrift || z.Linie;
-        if (k == u"positionieren" || k == QStringLiteral("löschen") || k == u"gesperrt") an = true;
+        if (k == u"positionieren" || k == QStringLiteral("löschen") || k == u"gesperrt") an = z.Rahmen;
         it.value()->setEnabled(an);
     }
     m_knoepfe.value(QStringLiteral("fett"))->setChecked(z.Fett);
@@ -145,9 +148,17 @@ void Formatleiste::Aktualisieren() {
         m_knoepfe.value(QString::fromLatin1(senkrecht[i]))->setChecked(z.Schrift && z.AusrichtungV == i);
     }
     m_knoepfe.value(QStringLiteral("gesperrt"))->setChecked(z.Gesperrt);
+    if (!m_fremd.isEmpty() && m_fremd != z.Schriftart) {
+        m_combo1->removeItem(m_combo1->findText(m_fremd));
+        m_fremd.clear();
+    }
     if (z.Schrift) {
         // A font the list doesn't offer is shown as it stands, so that the bar tells the truth.
-        if (m_combo1->findText(z.Schriftart) < 0) m_combo1->addItem(z.Schriftart);
+        // It leaves the list again when another text is current.
+        if (m_combo1->findText(z.Schriftart) < 0) {
+            m_combo1->addItem(z.Schriftart);
+            m_fremd = z.Schriftart;
+        }
         m_combo1->setCurrentText(z.Schriftart);
         m_combo3->setCurrentText(QString::number(z.Groesse));
     }

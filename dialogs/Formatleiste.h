@@ -36,6 +36,7 @@ private:
     QComboBox* m_combo1 = nullptr;
     QComboBox* m_combo3 = nullptr;
     QMap<QString, QAction*> m_knoepfe;
+    QString m_fremd; // a font of the current text that the machine doesn't offer, shown for it
 };
 
 } // namespace zp

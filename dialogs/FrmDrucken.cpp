@@ -1,11 +1,11 @@
 #include "dialogs/FrmDrucken.h"
 
-#include "core/Programmdienste.h"
 #include "core/Seitennavigation.h"
 #include "core/runtime/Basic.h"
 #include "core/state/AppState.h"
 #include "core/state/Editionen.h"
 #include "core/state/Oberflaeche.h"
+#include "output/Druckerabgleich.h"
 #include "output/Druckerliste.h"
 
 #include <QApplication>
@@ -35,8 +35,12 @@ QLineEdit* FrmDrucken::Feld(const char* name, const QString& text) {
     return e;
 }
 
-FrmDrucken::FrmDrucken(AppState& state, Oberflaeche& ui, const Dokumentdienste& d, QWidget* parent)
-    : QDialog(parent), s(state), m_ui(ui), m_d(d) {
+FrmDrucken::FrmDrucken(AppState& state, Oberflaeche& ui, QWidget* parent, Druckstart druck)
+    : QDialog(parent), s(state), m_ui(ui), m_druck(std::move(druck)) {
+    if (!m_druck)
+        m_druck = [](AppState& st, Oberflaeche& o, const Druckdialogwerte& w, const Druckfortschritt& f) {
+            return BefehlDrucken(st, o, w, f) == Druckergebnis::Gedruckt;
+        };
     setObjectName(QStringLiteral("frmDrucken"));
     setWindowTitle(QStringLiteral("Drucken"));
     const Edition e = AktuelleEdition(s);
@@ -52,6 +56,7 @@ FrmDrucken::FrmDrucken(AppState& state, Oberflaeche& ui, const Dokumentdienste& 
     const QString aktuell = s.Druckername.isEmpty() ? QPrinterInfo::defaultPrinterName() : s.Druckername;
     const int index = m_drucker->findText(aktuell);
     m_drucker->setCurrentIndex(index >= 0 ? index : 0);
+    WendeDruckerabgleichAn(s, m_drucker->currentText());
     auto* einstellen = new QPushButton(QStringLiteral("Standarddrucker"), this);
     einstellen->setObjectName(QStringLiteral("CommandEinstellen"));
     druckerZeile->addWidget(m_drucker, 1);
@@ -141,7 +146,6 @@ FrmDrucken::FrmDrucken(AppState& state, Oberflaeche& ui, const Dokumentdienste& 
     m_drucken = new QPushButton(QStringLiteral("Drucken"), this);
     m_drucken->setObjectName(QStringLiteral("CommandDrucken"));
     m_drucken->setDefault(true);
-    m_drucken->setEnabled(static_cast<bool>(m_d.Drucken));
     auto* abbruch = new QPushButton(QStringLiteral("Abbruch"), this);
     abbruch->setObjectName(QStringLiteral("CommandAbbruch"));
     knoepfe->addWidget(m_drucken);
@@ -160,7 +164,8 @@ FrmDrucken::FrmDrucken(AppState& state, Oberflaeche& ui, const Dokumentdienste& 
     m_druckStart->setEnabled(kalender && typ != 2 && typ != 3);
     m_druckEnde->setEnabled(kalender && typ != 2 && typ != 3);
     m_prozent->setEnabled(kalender);
-    m_hilfsmarken->setVisible(e == Edition::Visitenkarte || etikett || (kalender && typ == 3));
+    m_hilfsmarken->setVisible(e == Edition::Visitenkarte || etikett || e == Edition::CDHuelle ||
+                              (kalender && typ == 3));
     // The first label and the running number belong to sheets of pieces, which a calendar or a
     // letterhead doesn't print.
     const bool stuecke = !kalender && e != Edition::Briefkopf;
@@ -176,8 +181,14 @@ FrmDrucken::FrmDrucken(AppState& state, Oberflaeche& ui, const Dokumentdienste& 
             [this](bool an) { s.AktuellesEtikett.Schnittrahmen = basic::AlsWahrheit(an); });
     connect(m_check2, &QCheckBox::toggled, this,
             [this](bool an) { s.AktuellesEtikett.Schnittmarken = basic::AlsWahrheit(an); });
-    connect(m_drucker, &QComboBox::currentTextChanged, this,
-            [this](const QString& name) { s.Druckername = name; });
+    connect(m_drucker, &QComboBox::currentTextChanged, this, [this](const QString& name) {
+        s.Druckername = name;
+        // A printer with kept offsets brings them along.
+        if (WendeDruckerabgleichAn(s, name)) {
+            m_abgleichX->setText(basic::DoubleText(s.AbgleichX));
+            m_abgleichY->setText(basic::DoubleText(s.AbgleichY));
+        }
+    });
     connect(einstellen, &QPushButton::clicked, this, [this] {
         QPrinter drucker;
         if (m_drucker->currentText() != kPdfDatei) drucker.setPrinterName(m_drucker->currentText());
@@ -213,7 +224,6 @@ Druckdialogwerte FrmDrucken::Werte() const {
 }
 
 void FrmDrucken::CommandDrucken() {
-    if (!m_d.Drucken) return;
     Druckdialogwerte werte = Werte();
     // The file first: nothing else may stand over the file dialog, and a cancel there leaves the
     // print dialog open as it was.
@@ -243,7 +253,7 @@ void FrmDrucken::CommandDrucken() {
     QApplication::setOverrideCursor(Qt::WaitCursor);
     bool gedruckt = false;
     try {
-        gedruckt = m_d.Drucken(s, m_ui, werte, melden);
+        gedruckt = m_druck(s, m_ui, werte, melden);
     } catch (const std::exception& e) {
         fortschritt.reset();
         QApplication::restoreOverrideCursor();

@@ -2,7 +2,9 @@
 // frmDrucken: printer, copies, pages or addresses, print size, printer adjustment and cut marks.
 // "Drucken" hands the boxes to the print run and shows its progress.
 
-#include "core/Dokumentdienste.h"
+#include "core/Druckbefehle.h"
+
+#include <functional>
 
 #include <QDialog>
 
@@ -20,7 +22,11 @@ class Oberflaeche;
 class FrmDrucken : public QDialog {
     Q_OBJECT
 public:
-    FrmDrucken(AppState& s, Oberflaeche& ui, const Dokumentdienste& d, QWidget* parent = nullptr);
+    // The run that "Drucken" starts: whether it printed. Unset, the print command runs.
+    using Druckstart =
+        std::function<bool(AppState&, Oberflaeche&, const Druckdialogwerte&, const Druckfortschritt&)>;
+
+    FrmDrucken(AppState& s, Oberflaeche& ui, QWidget* parent = nullptr, Druckstart druck = {});
 
     // The boxes as the print run receives them.
     [[nodiscard]] Druckdialogwerte Werte() const;
@@ -35,7 +41,7 @@ private:
 
     AppState& s;
     Oberflaeche& m_ui;
-    const Dokumentdienste& m_d;
+    Druckstart m_druck;
     QComboBox* m_drucker;
     QLineEdit *m_kopien, *m_start, *m_seriennummer, *m_druckStart, *m_druckEnde, *m_prozent;
     QLineEdit *m_von, *m_bis, *m_kategorie, *m_abgleichX, *m_abgleichY;

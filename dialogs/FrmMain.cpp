@@ -1,87 +1,121 @@
-// frmMain: construction, the load handler and what the core asks of the window.
-#include "dialogs/FrmMain.h"
-#include "dialogs/FrmMsg.h"
-#include "dialogs/Monatskalender.h"
-#include "dialogs/Seitenansicht.h"
+// frmMain: construction, the load handler and the showing of the core's change notices.
+#include "FrmMain.h"
+#include "Benannt.h"
+#include "Fensterantworten.h"
+#include "Formatleiste.h"
+#include "PanelDatensatz.h"
+#include "PanelFeiertage.h"
+#include "PanelGalerie.h"
+#include "PanelKalender.h"
+#include "PanelLayouts.h"
+#include "PanelMonatsbilder.h"
+#include "PanelTermine.h"
+#include "PanelTexte.h"
+#include "Seitenansicht.h"
 
 #include "calendar/data/Tagesdaten.h"
+#include "compose/Seitenmaler.h"
+#include "core/Beenden.h"
 #include "core/Datensatzbefehle.h"
 #include "core/Dokumentbefehle.h"
+#include "core/Formatbefehle.h"
 #include "core/Seitennavigation.h"
 #include "core/Start.h"
 #include "core/state/AppState.h"
 #include "core/state/Editionen.h"
+#include "core/state/Inhalt.h"
 #include "core/state/Zoom.h"
+#include "persist/Datensaetze.h"
 #include "render/Bildwerk.h"
 
 #include <QAction>
 #include <QCloseEvent>
-#include <QColorDialog>
 #include <QComboBox>
-#include <QDate>
-#include <QDir>
-#include <QFileDialog>
-#include <QFontDatabase>
 #include <QGuiApplication>
+#include <QIcon>
 #include <QLabel>
 #include <QLayout>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMessageBox>
-#include <QPainter>
-#include <QPlainTextEdit>
-#include <QPushButton>
 #include <QScreen>
-#include <QScrollArea>
-#include <QSignalBlocker>
-#include <QSpinBox>
+#include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolBar>
-#include <QToolButton>
-#include <cmath>
 
 namespace zp {
 
-namespace {
+FrmMain::FrmMain(AppState& state, QWidget* parent)
+    : FrmMain(state, std::make_unique<Fensterantworten>(state), parent) {}
 
-QColor AlsQColor(int farbe) {
-    return QColor(farbe & 0xFF, (farbe >> 8) & 0xFF, (farbe >> 16) & 0xFF);
-}
-
-// The 19 sample designs of the business-card gallery, in the order of daten/design<n>.zpv.
-const char* const Galerienamen[] = {
-    "Korkstreifen",       "Blauer Pfeil",   "Grüne Streifen",  "Grüne Zacken",
-    "Bunte Balken",       "Blaue Ecke",     "Wasserkarte",     "Rote Karte",
-    "Grüne Karte",        "Gelbes Quadrat", "Lila Dreieck",    "Schwarze Ecke",
-    "Blauer Streife",     "Gelber Kreis",   "Bunte Rechtecke", "Gelber Kreis im blauen Rahmen",
-    "Roter Balken unten", "Grünes Dreieck", "Rotes Dach"};
-
-} // namespace
-
-FrmMain::FrmMain(AppState& state, Dokumentdienste dienste, QWidget* parent)
-    : QMainWindow(parent), s(state), m_d(std::move(dienste)) {
+FrmMain::FrmMain(AppState& state, std::unique_ptr<Fensterantworten> antworten, QWidget* parent)
+    : QMainWindow(parent), s(state), m_maler(std::make_unique<Seitenmaler>()),
+      m_antworten(std::move(antworten)) {
     setObjectName(QStringLiteral("frmMain"));
-    MenuesAnlegen();
-    ToolbarsAnlegen();
+    m_antworten->fenster = this;
+    m_format = new Formatleiste(s, *m_antworten, this);
+    HauptaktionenAnlegen(*this, m_a, m_format);
     PanelsAnlegen();
+    StatusleisteAnlegen();
+    m_antworten->geaendert = [this](unsigned was) { Zeigen(was); };
+    m_antworten->statusDatei = [this](const QString& pfad) { StatusDatei(pfad); };
+    m_antworten->statusmeldung = [this](const QString& text) { Notiz(text); };
+    m_antworten->formatleiste = [this] { m_format->Aktualisieren(); };
+    // The core moves the focus after a click on a text frame or to a new record's first box.
+    m_antworten->fokus = [this](int feld) {
+        const bool nachKlick = AuswahlZeigtText(s, feld);
+        for (auto& [nummer, panel] : m_panels)
+            if (panel->Fokus(feld, nachKlick)) return;
+    };
     Verbinden();
     Freigaben();
     // A picture that can't be loaded is told in a message box, once per file.
-    BildwerkVon(s).Meldungen = this;
+    BildwerkVon(s).Meldungen = m_antworten.get();
 }
 
 FrmMain::~FrmMain() {
     Bildwerk& werk = BildwerkVon(s);
-    if (werk.Meldungen == this) werk.Meldungen = nullptr;
+    if (werk.Meldungen == m_antworten.get()) werk.Meldungen = nullptr;
 }
 
-void FrmMain::FarbfeldZeigen(QToolButton* feld, int farbe) {
-    const QColor c = AlsQColor(farbe < 0 ? 0xFFFFFF : farbe);
-    feld->setStyleSheet(
-        QStringLiteral("QToolButton { background: %1; border: 1px solid #808080; }").arg(c.name()));
-    feld->setProperty("farbe", farbe < 0 ? 0xFFFFFF : farbe);
+// A side panel in Frame1(frame); the window tells it every change.
+template <typename P> P* FrmMain::Panel(int frame) {
+    auto* p = new P(Panelumgebung{s, *m_antworten});
+    m_frame1->addWidget(p);
+    m_panels.emplace_back(frame, p);
+    return p;
+}
+
+void FrmMain::PanelsAnlegen() {
+    m_frame1 = Benannt<QStackedWidget>(QStringLiteral("Frame1"));
+    m_frame1->setMinimumWidth(270);
+    Panel<PanelTexte>(1);
+    Panel<PanelLayouts>(3);
+    Panel<PanelDatensatz>(4);
+    Panel<PanelGalerie>(5);
+    Panel<PanelTermine>(6);
+    Panel<PanelFeiertage>(7);
+    m_kalender = Panel<PanelKalender>(8);
+    Panel<PanelMonatsbilder>(9);
+
+    m_seite = new Seitenansicht;
+    auto* teiler = Benannt<QSplitter>(QStringLiteral("Frame2"));
+    teiler->addWidget(m_frame1);
+    teiler->addWidget(m_seite);
+    teiler->setStretchFactor(1, 1);
+    teiler->setSizes({280, 500});
+    teiler->setChildrenCollapsible(false);
+    setCentralWidget(teiler);
+}
+
+void FrmMain::StatusleisteAnlegen() {
+    statusBar()->setObjectName(QStringLiteral("StatusBar"));
+    for (int i = 0; i < 3; ++i) {
+        m_status[i] = Benannt<QLabel>(QStringLiteral("StatusBar_%1").arg(i + 1));
+        statusBar()->addPermanentWidget(m_status[i], i == 0 ? 1 : 0);
+    }
+    m_status[0]->setText(QStringLiteral("Aktuelle Datei: "));
+    m_status[1]->setMinimumWidth(80);
+    m_status[2]->setMinimumWidth(80);
 }
 
 void FrmMain::Laden() {
@@ -91,12 +125,14 @@ void FrmMain::Laden() {
 
     // 1., 3. to 5. and 11. in the state: fonts, the calendar's empty day data and kalender.ini,
     // the label catalogue, the text object of the panel, the start document.
-    LadeStartzustand(s, *this);
-    if (e == Edition::Visitenkarte) DienstAusfuehren(m_d.LadeDatensaetze, s, *this);
+    LadeStartzustand(s, *m_antworten);
+    if (e == Edition::Visitenkarte) LadeDatensaetze(s, *m_antworten);
 
-    // 3. The calendar block of the panel.
+    // 3. The calendar block of the panel; 4. and 5. the captions of the card and sheet boxes.
+    for (auto& [nummer, panel] : m_panels)
+        panel->Laden();
     if (e == Edition::Kalender) {
-        StatusDatei(s.Datendatei);
+        m_antworten->StatusDatei(s.Datendatei);
         MonatsansichtenAufJahr(s, static_cast<int>(s.Kalenderjahr));
         // The day data of the last session: the boxes show the selected days, the views their marks.
         TerminAnzeigen(s);
@@ -104,34 +140,15 @@ void FrmMain::Laden() {
         TagesmarkenAufbauen(s);
         MonatsbildWaehlen(s, 0);
         Seitenbereich(s);
-        SeitentitelAktualisieren();
-        for (int t = 1; t <= 7; ++t)
-            TypKnopfHervorheben(t, t == static_cast<int>(s.Kalendertyp));
-        m_comboVariante->clear();
-        m_comboVariante->addItems({QStringLiteral("Variante 1"), QStringLiteral("Variante 2")});
-        m_comboVariante->setCurrentIndex(s.Designvariante == QLatin1String("v2") ? 1 : 0);
-        m_comboJahr->clear();
-        for (int j = 1990; j <= QDate::currentDate().year() + 10; ++j)
-            m_comboJahr->addItem(QString::number(j));
-        // A year outside the list stays valid; the box just shows it.
-        m_comboJahr->setEditText(QString::number(static_cast<long long>(s.Kalenderjahr)));
-        m_comboMonat->clear();
-        for (int m = 1; m <= 12; ++m)
-            m_comboMonat->addItem(s.Monatsnamen(m));
-        const int typ = static_cast<int>(s.Kalendertyp);
-        Aktion(QStringLiteral("Toolbar5_4"))->setVisible(typ == 4 || typ == 5);
+        Zeigen(Aenderung::Seitentitel | Aenderung::Kalendertyp);
     } else {
-        StatusDatei(s.AktuelleDatei);
+        m_antworten->StatusDatei(s.AktuelleDatei);
     }
-
-    // 4. and 5. The card and sheet blocks.
-    for (int i = 1; i <= 30; ++i)
-        if (m_label1[i]) m_label1[i]->setText(Eingabebeschriftung(e, i));
     if (e != Edition::Etikett) {
-        Aktion(QStringLiteral("Toolbar4_1"))->setVisible(false);
-        Aktion(QStringLiteral("Toolbar4_2"))->setChecked(true);
+        m_a.Toolbar4_[1]->setVisible(false);
+        m_a.Toolbar4_[2]->setChecked(true);
     } else {
-        Aktion(QStringLiteral("Toolbar4_1"))->setChecked(true);
+        m_a.Toolbar4_[1]->setChecked(true);
     }
 
     // 6. and 7. Size, place and caption.
@@ -153,25 +170,12 @@ void FrmMain::Laden() {
     ZoomEinpassen();
 
     // 12. and 13. The format bar's button and lists: scalable fonts, sizes 8 to 72 by 2.
-    Aktion(QStringLiteral("Toolbar1_Eigenschaft"))->setText(QStringLiteral("Schriftart"));
-    m_combo1->clear();
-    for (int i = 1; i <= s.Schriftenliste.Obergrenze(); ++i) {
-        if (s.Schriftenliste(i) == QLatin1String("-1")) break;
-        if (s.SchriftSkalierbar(i) != 0) m_combo1->addItem(s.Schriftenliste(i));
-    }
-    m_combo3->clear();
-    for (int g = 8; g <= 72; g += 2)
-        m_combo3->addItem(QString::number(g));
-
-    // 14. The design gallery.
-    m_list1->clear();
-    for (const char* name : Galerienamen)
-        m_list1->addItem(QString::fromUtf8(name));
+    m_a.Toolbar1_Eigenschaft->setText(QStringLiteral("Schriftart"));
+    m_format->ListenFuellen();
 
     // 15. Selection and the record on show.
-    PanelAktualisieren();
-    AuswahlAktualisieren();
-    if (e != Edition::Kalender) ZeigeDatensatz(s, *this);
+    Zeigen(Aenderung::Panel | Aenderung::Auswahl);
+    if (e != Edition::Kalender) ZeigeDatensatz(s, *m_antworten);
 }
 
 void FrmMain::ZoomEinpassen() {
@@ -196,70 +200,36 @@ void FrmMain::showEvent(QShowEvent* e) {
 }
 
 void FrmMain::closeEvent(QCloseEvent* e) {
-    Beenden(s, *this, m_d);
+    Beenden(s, *m_antworten);
     e->accept();
 }
 
-// ---- Questions and messages -----------------------------------------------------------------
+// ---- Change notices ---------------------------------------------------------------------------
 
-bool FrmMain::Frage(const QString& text, const QString& titel) {
-    QMessageBox box(QMessageBox::Question, titel, text, QMessageBox::Yes | QMessageBox::No, this);
-    // Questions that delete or replace what the user made: a stray Enter keeps it.
-    box.setDefaultButton(QMessageBox::No);
-    return box.exec() == QMessageBox::Yes;
+void FrmMain::Zeigen(unsigned was) {
+    const unsigned panels =
+        Aenderung::Panel | Aenderung::Datensatz | Aenderung::Seitentitel | Aenderung::Kalendertyp;
+    if (was & panels)
+        for (auto& [nummer, panel] : m_panels)
+            panel->Zeigen(was);
+    if (was & Aenderung::Seitentitel) {
+        const int typ = static_cast<int>(s.Kalendertyp);
+        m_a.Toolbar5_[4]->setVisible(typ == 4 || typ == 5);
+    }
+    if (was & Aenderung::Zoom) {
+        ApplyZoom(); // marker and, unless locked, the page
+        was &= ~(Aenderung::Auswahl | (s.LadeSperre == 0 ? Aenderung::Seite : 0u));
+    }
+    if (was & Aenderung::Auswahl) AuswahlAktualisieren();
+    if (was & Aenderung::Seite) Neuzeichnen();
 }
-
-void FrmMain::Meldung(const QString& text, const QString& titel, const QString& detail) {
-    FrmMsg::Zeigen(this, text, titel, detail);
-}
-
-QString FrmMain::DateiWaehlen(const QString& titel, const QString& filter, bool speichern) {
-    const QString qt = QtDateifilter(filter);
-    if (!speichern) return QFileDialog::getOpenFileName(this, titel, s.Programmpfad, qt);
-    QString gewaehlt;
-    const QString name = QFileDialog::getSaveFileName(this, titel, s.Programmpfad, qt, &gewaehlt);
-    return MitFilterendung(name, gewaehlt);
-}
-
-std::optional<QColor> FrmMain::FarbeWaehlen(const QColor& start) {
-    const QColor c = QColorDialog::getColor(start, this, QStringLiteral("Farbe"));
-    if (!c.isValid()) return std::nullopt;
-    return c;
-}
-
-// ---- Window updates ---------------------------------------------------------------------------
 
 void FrmMain::Neuzeichnen() {
-    if (m_d.Seitenbild) {
-        QImage seite = SeiteZeichnen();
-        if (!seite.isNull()) {
-            m_seite->PictureSeite()->BildSetzen(std::move(seite));
-            return;
-        }
-    }
-    const QSizeF twips = BildgroesseTwips(s, s.Zoomfaktor);
-    const double tx = s.TwipsProPixelX > 0 ? s.TwipsProPixelX : 15;
-    const double ty = s.TwipsProPixelY > 0 ? s.TwipsProPixelY : 15;
-    const QSize pixel(std::max(1, static_cast<int>(std::lround(twips.width() / tx))),
-                      std::max(1, static_cast<int>(std::lround(twips.height() / ty))));
-    QImage bild(pixel, QImage::Format_RGB32);
-    bild.fill(Qt::white);
-    if (!m_d.Seitenbild) {
-        // Without the composition the view shows the bare sheet with its edge.
-        QPainter p(&bild);
-        p.setPen(QColor(160, 160, 160));
-        p.drawRect(0, 0, pixel.width() - 1, pixel.height() - 1);
-    }
-    m_seite->PictureSeite()->BildSetzen(std::move(bild));
-}
-
-QImage FrmMain::SeiteZeichnen() {
     try {
-        return m_d.Seitenbild(s);
+        m_seite->PictureSeite()->BildSetzen(m_maler->Zeichne(s));
     } catch (const std::exception& e) {
-        Meldung(QStringLiteral("Die Seite konnte nicht gezeichnet werden."), QStringLiteral("Warnung!"),
-                QString::fromUtf8(e.what()));
-        return {};
+        m_antworten->Meldung(QStringLiteral("Die Seite konnte nicht gezeichnet werden."),
+                             QStringLiteral("Warnung!"), QString::fromUtf8(e.what()));
     }
 }
 
@@ -267,10 +237,6 @@ void FrmMain::ApplyZoom() {
     m_seite->RulerZoom(s.Zoomfaktor, s.TwipsProPixelX > 0 ? s.TwipsProPixelX : 15);
     AuswahlAktualisieren();
     if (s.LadeSperre == 0) Neuzeichnen();
-}
-
-void FrmMain::ZoomAktualisieren() {
-    ApplyZoom();
 }
 
 void FrmMain::ZoomSetzen(double zoom) {
@@ -282,11 +248,11 @@ void FrmMain::ZoomSetzen(double zoom) {
     Neuzeichnen();
 }
 
-void FrmMain::Commandzoom(int index) {
-    ZoomSetzen(ZoomSchritt(s.Zoomfaktor, index == 1));
-}
-
 void FrmMain::AuswahlAktualisieren() {
+    // The marker follows the current frame also after a load or a zoom, for the handles and corners.
+    MarkerNachRahmen(s);
+    m_format->Aktualisieren();
+    EigenschaftZeigen();
     QFrame* marker = m_seite->Rahmen();
     const int n = static_cast<int>(s.RahmenNummer);
     if (n < 1 || !s.Rahmenliste.Gueltig(n) || n > s.RahmenAnzahl || s.Rahmenliste(n).Sichtbar == 0) {
@@ -301,6 +267,29 @@ void FrmMain::AuswahlAktualisieren() {
     marker->show();
 }
 
+void FrmMain::EigenschaftZeigen() {
+    // The property key names the dialog of the current frame's kind; a letter body has none here.
+    struct Art {
+        const char* objekttyp;
+        const char* titel;
+        const char* symbol;
+    };
+    static constexpr Art arten[] = {{"Schrift", "Schriftart", "format-text-bold"},
+                                    {"Bild", "Bild", "image-x-generic"},
+                                    {"Linie", "Form", "draw-rectangle"},
+                                    {"RTF", "Brief", "x-office-document"}};
+    const int n = static_cast<int>(s.RahmenNummer);
+    const bool rahmen = n >= 1 && n <= s.RahmenAnzahl && s.Rahmenliste.Gueltig(n);
+    const QString typ = rahmen ? s.Rahmenliste(n).Objekttyp : QString();
+    QAction* knopf = m_a.Toolbar1_Eigenschaft;
+    knopf->setEnabled(rahmen && typ != u"RTF");
+    for (const Art& a : arten) {
+        if (typ != QLatin1String(a.objekttyp)) continue;
+        knopf->setText(QString::fromUtf8(a.titel));
+        knopf->setIcon(QIcon::fromTheme(QString::fromLatin1(a.symbol), knopf->icon()));
+    }
+}
+
 void FrmMain::StatusDatei(const QString& pfad) {
     QLabel* feld = m_status[0];
     const QString text = StatusDateitext(pfad);
@@ -312,51 +301,7 @@ void FrmMain::StatusDatei(const QString& pfad) {
     feld->setText(text);
 }
 
-void FrmMain::SeitentitelAktualisieren() {
-    const QSignalBlocker b(m_upDownSeite);
-    m_upDownSeite->setMaximum(std::max(1, static_cast<int>(s.Seitenanzahl)));
-    if (s.Seitennummer > s.Seitenanzahl || static_cast<int>(s.Kalendertyp) == 6) s.Seitennummer = 1;
-    m_upDownSeite->setValue(static_cast<int>(s.Seitennummer));
-    const QSignalBlocker bt(m_textSeite);
-    m_textSeite->setText(QString::number(static_cast<int>(s.Seitennummer)));
-}
-
-void FrmMain::TypKnopfHervorheben(int typ, bool an) {
-    if (typ < 1 || typ > 7) return;
-    m_typ[typ]->setStyleSheet(
-        an ? QStringLiteral("QPushButton { background: %1; }").arg(AlsQColor(s.Dialogfarbe1).name())
-           : QString());
-}
-
-void FrmMain::PanelAktualisieren() {
-    const uint8_t sperre = s.LadeSperre;
-    s.LadeSperre = 255;
-    for (int i = 1; i <= 20; ++i) {
-        const QString t = s.Schriftliste.Gueltig(i) ? s.Schriftliste(i).Textstring : s.Panel.Text1(i);
-        if (m_text1[i]->text() != t) m_text1[i]->setText(t);
-    }
-    if (m_textTitel->text() != s.Panel.TextTitel) m_textTitel->setText(s.Panel.TextTitel);
-    if (m_textUnterschrift->text() != s.Panel.TextUnterschrift)
-        m_textUnterschrift->setText(s.Panel.TextUnterschrift);
-    KalenderpanelZeigen();
-    s.LadeSperre = sperre;
-}
-
-void FrmMain::DatensatzAnzeigen() {
-    // The record's fields stand in the panel's boxes 21 to 30 of the state.
-    const uint8_t sperre = s.LadeSperre;
-    s.LadeSperre = 255;
-    for (int i = 21; i <= 30; ++i)
-        if (m_text1[i]->text() != s.Panel.Text1(i)) m_text1[i]->setText(s.Panel.Text1(i));
-    m_textData->setText(QString::number(static_cast<long long>(s.DatensatzNummer)));
-    s.LadeSperre = sperre;
-}
-
-void FrmMain::FokusFeldbox(int i) {
-    if (i >= 1 && i <= 30) m_text1[i]->setFocus();
-}
-
-void FrmMain::Statusmeldung(const QString& text) {
+void FrmMain::Notiz(const QString& text) {
     // The file's panel fills the bar, so a note stands in it for a while; then the file again.
     QLabel* feld = m_status[0];
     const int notiz = feld->property("notiz").toInt() + 1;
@@ -370,19 +315,9 @@ void FrmMain::Statusmeldung(const QString& text) {
     });
 }
 
-QString FrmMain::SpeicherDateiWaehlen(const QString& titel, const QString& filter, const QString& vorschlag) {
-    QString gewaehlt;
-    const QString name = QFileDialog::getSaveFileName(this, titel, QDir(s.Programmpfad).filePath(vorschlag),
-                                                      QtDateifilter(filter), &gewaehlt);
-    return MitFilterendung(name, gewaehlt);
-}
-
-QString FrmMain::QtDateiWaehlen(const QString& titel, const QString& qtFilter) {
-    return QFileDialog::getOpenFileName(this, titel, s.Programmpfad, qtFilter);
-}
-
 void FrmMain::Panelzeigen(int frame) {
-    if (QWidget* w = m_panels.value(frame, nullptr)) m_frame1->setCurrentWidget(w);
+    for (auto& [nummer, panel] : m_panels)
+        if (nummer == frame) m_frame1->setCurrentWidget(panel);
 }
 
 } // namespace zp

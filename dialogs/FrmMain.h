@@ -1,168 +1,101 @@
 #pragma once
-// frmMain: the program's one document window. Menus, toolbars, the stacked side panels Frame1,
-// the page view with rulers and the status bar. It answers the core's questions (Oberflaeche)
-// and binds every control to its command; entries whose work isn't part of this build stay
-// visible and disabled.
+// frmMain: the program's one document window. It holds the menus and toolbars (Hauptaktionen),
+// the side panels Frame1 (each a Seitenpanel of its own), the page view with rulers and the status
+// bar; its answers to the core are a Fensterantworten, whose change notices it shows. Entries whose
+// work isn't part of this build stay visible and disabled.
 
-#include "calendar/data/Kalendertypen.h"
-#include "core/Dokumentdienste.h"
-#include "core/state/Oberflaeche.h"
+#include "Hauptaktionen.h"
 
-#include <QColor>
 #include <QMainWindow>
-#include <QMap>
-#include <optional>
+#include <QTemporaryDir>
+#include <memory>
+#include <vector>
 
-class QAction;
-class QComboBox;
-class QFormLayout;
 class QLabel;
-class QLineEdit;
-class QListWidget;
-class QPlainTextEdit;
-class QPushButton;
-class QSpinBox;
 class QStackedWidget;
-class QToolBar;
-class QToolButton;
-class QUrl;
 
 namespace zp {
 struct AppState;
-class Monatskalender;
+class Fensterantworten;
+class Formatleiste;
+class PanelKalender;
+class Seitenmaler;
 class Seitenansicht;
+class Seitenpanel;
 
-class FrmMain : public QMainWindow, public Oberflaeche {
+class FrmMain : public QMainWindow {
     Q_OBJECT
 public:
-    FrmMain(AppState& s, Dokumentdienste dienste, QWidget* parent = nullptr);
+    explicit FrmMain(AppState& s, QWidget* parent = nullptr);
+    // With answers of the caller's own (tests answer without dialogs).
+    FrmMain(AppState& s, std::unique_ptr<Fensterantworten> antworten, QWidget* parent = nullptr);
     ~FrmMain() override;
 
     // The load handler: fonts, edition settings, panels, window size, zoom, start document.
     void Laden();
 
-    // ---- What the core asks of the window --------------------------------------------------
-    bool Frage(const QString& text, const QString& titel) override;
-    void Meldung(const QString& text, const QString& titel, const QString& detail = {}) override;
-    QString DateiWaehlen(const QString& titel, const QString& filter, bool speichern) override;
-    void Neuzeichnen() override;
-    void AuswahlAktualisieren() override;
-    void ZoomAktualisieren() override;
-    void StatusDatei(const QString& text) override;
-    void SeitentitelAktualisieren() override;
-    void TypKnopfHervorheben(int typ, bool an) override;
-    void PanelAktualisieren() override;
-    void DatensatzAnzeigen() override;
-    void FokusFeldbox(int i) override;
-    void Statusmeldung(const QString& text) override;
-    // A file to open with a filter already in Qt's form.
-    virtual QString QtDateiWaehlen(const QString& titel, const QString& qtFilter);
-    // A file to save, with a suggested name (relative to the program folder, or absolute).
-    QString SpeicherDateiWaehlen(const QString& titel, const QString& filter,
-                                 const QString& vorschlag) override;
+    // What changed in the state (Aenderung flags): the page, the marker, rulers, panels.
+    void Zeigen(unsigned was);
 
-    // A web page, a mail or the help file in the desktop's program; false when there is none.
-    virtual bool AdresseOeffnen(const QUrl& adresse);
-
-    // The colour dialog: the chosen colour, or nothing when cancelled.
-    virtual std::optional<QColor> FarbeWaehlen(const QColor& start);
-
-    // ---- Commands the controls run -----------------------------------------------------------
     void ZoomSetzen(double zoom); // zoom menus: LadeSperre, ApplyZoom, redraw
-    void Commandzoom(int index);  // 1 a step up, 0 a step down
     void ApplyZoom();
     void ZoomEinpassen();        // the fit of the start: page width or whole label
     void Panelzeigen(int frame); // brings Frame1(frame) to the front
 
-    [[nodiscard]] QAction* Aktion(const QString& name) const;
+    [[nodiscard]] Fensterantworten& Antworten() const { return *m_antworten; }
+    [[nodiscard]] const Hauptaktionen& Aktionen() const { return m_a; }
+    // An entry by its object name, as the edition rules and tests name them.
+    [[nodiscard]] QAction* Aktion(const QString& name) const { return AktionNamens(*this, name); }
     [[nodiscard]] Seitenansicht* Seite() const { return m_seite; }
-    [[nodiscard]] const Dokumentdienste& Dienste() const { return m_d; }
 
 protected:
     void closeEvent(QCloseEvent* e) override;
-    bool eventFilter(QObject* objekt, QEvent* e) override;
     void showEvent(QShowEvent* e) override;
 
 private:
-    // Building, in FrmMainAufbau.cpp.
-    void MenuesAnlegen();
-    void ToolbarsAnlegen();
+    // Building, here.
     void PanelsAnlegen();
-    QWidget* PanelTexte();
-    QWidget* PanelDatensatz();
-    QWidget* PanelLayouts();
-    QWidget* PanelGalerie();
-    QWidget* PanelTermine();
-    QWidget* PanelFeiertage();
-    QWidget* PanelKalender();
-    QWidget* PanelMonatsbilder();
-    QAction* NeueAktion(QMenu* menue, const char* name, const QString& titel);
-    QToolButton* Farbfeld(const char* name);
-    QFormLayout* Farbpaar(int erstes, const char* schrift, const char* hintergrund);
-    void Textfelder(QFormLayout* f, int von, int bis);
+    template <typename P> P* Panel(int frame);
+    void StatusleisteAnlegen();
 
     // Binding, in FrmMainBefehle.cpp.
     void Verbinden();
+    void DateiVerbinden();
+    void AnsichtVerbinden();
+    void HilfeVerbinden();
+    void RahmenVerbinden(); // in FrmMainRahmen.cpp
     void Freigaben();
     void EditionAnwenden();
     void Haekchen();
     void Umschalten(float& flag, QAction* a, bool umgekehrt, bool neuzeichnen);
     void Toolbar4Knopf(int knopf);
     void Toolbar5Knopf(int knopf);
-    void Schnappschuss();
-    void TerminGeaendert();
-    void FeiertagGeaendert();
-    void TerminAngeklickt();
-    void FeiertagAngeklickt();
-    void FarbfeldGeklickt(int art);
-    void KalenderpanelZeigen();
-    void Vorschaubild();
-    void JahrGetipptBefehl();
-    void JahrGeklickt(int index);
-    Designablage Ablage();
-    void SeiteGetippt();
+    void KalenderdesignZeigen();
+    // frmSeite on one of its tabs; the window is redrawn after Ok.
+    void SeiteEinrichten(int tab);
     void Hilfe();
     void Drucken();
-    void FarbfeldZeigen(QToolButton* feld, int farbe);
-    QImage SeiteZeichnen();
+
+    // Showing, in FrmMain.cpp.
+    void Neuzeichnen();
+    void AuswahlAktualisieren();           // marker, format bar and the property key (UpdateSelection)
+    void EigenschaftZeigen();              // Toolbar1's "Eigenschaft" by the current frame's kind
+    void StatusDatei(const QString& pfad); // status panel 1, unless a note stands there for it
+    void Notiz(const QString& text);       // a note in status panel 1 for ten seconds
 
     AppState& s;
-    Dokumentdienste m_d;
-    QMap<QString, QAction*> m_aktionen;
+    std::unique_ptr<Seitenmaler> m_maler; // the page picture, composed at the present zoom
+    std::unique_ptr<Fensterantworten> m_antworten;
+    Formatleiste* m_format = nullptr; // Toolbar3
+    Hauptaktionen m_a;
+    QTemporaryDir m_privat; // the window's own temporary folder (mode 0700) for the panel snapshot
     bool m_ersteAnzeige = true;
 
-    QToolBar* m_toolbar1 = nullptr;
-    QToolBar* m_toolbar3 = nullptr;
-    QToolBar* m_toolbar4 = nullptr;
-    QToolBar* m_toolbar5 = nullptr;
     QStackedWidget* m_frame1 = nullptr;
-    QMap<int, QWidget*> m_panels;
+    std::vector<std::pair<int, Seitenpanel*>> m_panels;
+    PanelKalender* m_kalender = nullptr;
     Seitenansicht* m_seite = nullptr;
     QLabel* m_status[3] = {};
-
-    QLineEdit* m_text1[31] = {};
-    QLabel* m_label1[31] = {};
-    QLineEdit* m_textData = nullptr;
-    QListWidget* m_list1 = nullptr;
-    QComboBox* m_combo1 = nullptr;
-    QComboBox* m_combo3 = nullptr;
-
-    Monatskalender* m_monat1 = nullptr;
-    Monatskalender* m_monat2 = nullptr;
-    QPlainTextEdit* m_textTermin = nullptr;
-    QLineEdit* m_textFeiertag = nullptr;
-    QToolButton* m_farbfeld[4] = {}; // TerminSchrift, TerminBack, FeiertagSchrift, FeiertagBack
-    QPushButton* m_typ[8] = {};
-    QComboBox* m_comboJahr = nullptr;
-    QComboBox* m_comboVariante = nullptr;
-    QSpinBox* m_upDownSeite = nullptr;
-    QLineEdit* m_textSeite = nullptr;
-    QLineEdit* m_textTitel = nullptr;
-    QLineEdit* m_textUnterschrift = nullptr;
-    QComboBox* m_comboMonat = nullptr;
-    QLineEdit* m_textbilddatei = nullptr;
-    QLineEdit* m_textBildbeschreibung = nullptr;
-    QLabel* m_leadKalender = nullptr;
 };
 
 } // namespace zp

@@ -1,42 +1,37 @@
-// frmMain: every control bound to its command.
-#include "dialogs/FrmDrucken.h"
-#include "dialogs/FrmInfo.h"
-#include "dialogs/FrmMain.h"
-#include "dialogs/Monatskalender.h"
-#include "dialogs/Seitenansicht.h"
+// frmMain: the menus and toolbars bound to their commands, what is enabled, and the edition's
+// settings of the window.
+#include "Eigenschaftsdialoge.h"
+#include "Fensterantworten.h"
+#include "FrmDrucken.h"
+#include "FrmFeiertage.h"
+#include "FrmInfo.h"
+#include "FrmKalenderdesign.h"
+#include "FrmMain.h"
+#include "FrmSeite.h"
+#include "PanelKalender.h"
+#include "Seitenansicht.h"
+#include "Seitenpanel.h"
 
-#include "calendar/data/Kalendertypen.h"
-#include "calendar/data/Tagesdaten.h"
-#include "core/Datensatzbefehle.h"
 #include "core/Dokumentbefehle.h"
+#include "core/Druckbefehle.h"
+#include "core/Formatbefehle.h"
 #include "core/Importbefehl.h"
-#include "core/Seitennavigation.h"
+#include "core/Kalenderoptionen.h"
+#include "core/Schnappschuss.h"
 #include "core/Sitzung.h"
-#include "core/runtime/Basic.h"
 #include "core/state/Ansicht.h"
 #include "core/state/AppState.h"
 #include "core/state/Editionen.h"
-#include "core/state/Textfelder.h"
 #include "core/state/Zoom.h"
 
 #include <QAction>
 #include <QApplication>
-#include <QComboBox>
-#include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
-#include <QImageReader>
 #include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
 #include <QMenu>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QSignalBlocker>
-#include <QSpinBox>
 #include <QStackedWidget>
 #include <QToolBar>
-#include <QToolButton>
 #include <QUrl>
 
 namespace zp {
@@ -47,369 +42,157 @@ namespace {
 const char* const Homepage = "https://zp-kalender.de/";
 const char* const Mailadresse = "mailto:autor@zp-kalender.de?subject=ZP";
 
-int AlsFarbe(const QColor& c) {
-    return basic::RGB(c.red(), c.green(), c.blue());
-}
-
-// Appointment texts keep CR LF in the table; the box works with plain line breaks.
-QString MitCrLf(QString text) {
-    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    return text.replace(QLatin1Char('\n'), QStringLiteral("\r\n"));
-}
-QString OhneCrLf(QString text) {
-    return text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+// Runs a command under the hourglass.
+template <typename F> void MitSanduhr(F&& befehl) {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    befehl();
+    QApplication::restoreOverrideCursor();
 }
 
 } // namespace
 
 void FrmMain::Verbinden() {
-    auto bei = [this](const char* name, auto f) {
-        connect(Aktion(QString::fromUtf8(name)), &QAction::triggered, this, f);
-    };
-
-    // File.
-    bei("mnuFileNew", [this] { BefehlNeu(s, *this, m_d); });
-    bei("mnuFileOpen", [this] { BefehlOeffnen(s, *this, m_d); });
-    bei("mnuimport", [this] {
-        const QString datei = QtDateiWaehlen(QStringLiteral("Importieren"), ImportFilter(s));
-        if (!datei.isEmpty() && Importieren(s, *this, datei)) Neuzeichnen();
+    DateiVerbinden();
+    AnsichtVerbinden();
+    HilfeVerbinden();
+    RahmenVerbinden();
+    for (int k = 1; k <= 5; ++k) {
+        connect(m_a.Toolbar4_[k], &QAction::triggered, this, [this, k] { Toolbar4Knopf(k); });
+        connect(m_a.Toolbar5_[k], &QAction::triggered, this, [this, k] { Toolbar5Knopf(k); });
+    }
+    connect(m_a.mnukalender, &QAction::triggered, m_kalender, &PanelKalender::Standarddesign);
+    // The dialog of the current frame's kind, also from the keyboard.
+    m_a.Toolbar1_Eigenschaft->setShortcut(QKeySequence(Qt::ALT | Qt::Key_Return));
+    connect(m_a.Toolbar1_Eigenschaft, &QAction::triggered, this,
+            [this] { OpenPropertyDialog(s, *m_antworten); });
+    // The page dialog on its tabs.
+    connect(m_a.mnuFilePageSetup, &QAction::triggered, this,
+            [this] { SeiteEinrichten(FrmSeite::TabFormat); });
+    connect(m_a.mnuKartengrösse, &QAction::triggered, this, [this] { SeiteEinrichten(FrmSeite::TabKarte); });
+    connect(m_a.mnuDesign, &QAction::triggered, this, [this] { SeiteEinrichten(FrmSeite::TabDesign); });
+    connect(m_a.mnuRaster, &QAction::triggered, this, [this] { SeiteEinrichten(FrmSeite::TabRaster); });
+    // The calendar's own dialogs and the editing of its template.
+    connect(m_a.mnuFeiertage, &QAction::triggered, this,
+            [this] { FrmFeiertage(s, *m_antworten, this).exec(); });
+    connect(m_a.mnukalendereditieren, &QAction::triggered, this, [this] {
+        m_a.mnukalendereditieren->setChecked(KalenderEditieren(s));
+        Neuzeichnen();
     });
-    bei("mnuFileSave", [this] { BefehlSpeichern(s, *this, m_d); });
-    bei("mnuFileSaveAs", [this] { BefehlSpeichernUnter(s, *this, m_d, Dateidialog::SpeichernUnter); });
-    bei("mnuFileSaveAs2", [this] { BefehlSpeichernUnter(s, *this, m_d, Dateidialog::SpeichernUnter2); });
-    bei("mnuFilePrint", [this] { Drucken(); });
-    bei("mnuBildSpeichern", [this] {
+}
+
+void FrmMain::DateiVerbinden() {
+    Fensterantworten& ui = *m_antworten;
+    connect(m_a.mnuFileNew, &QAction::triggered, this, [this, &ui] { BefehlNeu(s, ui); });
+    connect(m_a.mnuFileOpen, &QAction::triggered, this, [this, &ui] { BefehlOeffnen(s, ui); });
+    connect(m_a.mnuimport, &QAction::triggered, this, [this, &ui] {
+        const QString datei = ui.QtDateiWaehlen(QStringLiteral("Importieren"), ImportFilter(s));
+        if (!datei.isEmpty() && Importieren(s, ui, datei)) Neuzeichnen();
+    });
+    connect(m_a.mnuFileSave, &QAction::triggered, this, [this, &ui] { BefehlSpeichern(s, ui); });
+    connect(m_a.mnuFileSaveAs, &QAction::triggered, this,
+            [this, &ui] { BefehlSpeichernUnter(s, ui, Dateidialog::SpeichernUnter); });
+    connect(m_a.mnuFileSaveAs2, &QAction::triggered, this,
+            [this, &ui] { BefehlSpeichernUnter(s, ui, Dateidialog::SpeichernUnter2); });
+    connect(m_a.mnuFilePrint, &QAction::triggered, this, [this] { Drucken(); });
+    connect(m_a.mnuBildSpeichern, &QAction::triggered, this, [this, &ui] {
         const QString datei =
-            SpeicherDateiWaehlen(QStringLiteral("Bild speichern"),
-                                 QStringLiteral("BMP-Bilddatei (*.bmp)|*.bmp"), QStringLiteral("ZP.bmp"));
-        if (datei.isEmpty() || !m_d.BildSpeichern) return;
-        QApplication::setOverrideCursor(Qt::WaitCursor);
-        m_d.BildSpeichern(s, *this, datei);
-        QApplication::restoreOverrideCursor();
+            ui.SpeicherDateiWaehlen(QStringLiteral("Bild speichern"),
+                                    QStringLiteral("BMP-Bilddatei (*.bmp)|*.bmp"), QStringLiteral("ZP.bmp"));
+        if (!datei.isEmpty()) MitSanduhr([&] { BefehlBildSpeichern(s, ui, datei); });
     });
-    bei("mnuWord", [this] {
-        QApplication::setOverrideCursor(Qt::WaitCursor);
-        DienstAusfuehren(m_d.Word, s, *this);
-        QApplication::restoreOverrideCursor();
+    connect(m_a.mnuWord, &QAction::triggered, this,
+            [this, &ui] { MitSanduhr([&] { BefehlWord(s, ui, QString(), true); }); });
+    connect(m_a.mnuSitzung, &QAction::toggled, this, [this, &ui](bool an) {
+        if (s.LadeSperre == 0) SitzungWiederherstellenSetzen(s, ui, an);
     });
-    connect(Aktion(QStringLiteral("mnuSitzung")), &QAction::toggled, this, [this](bool an) {
-        if (s.LadeSperre == 0) SitzungWiederherstellenSetzen(s, *this, an);
-    });
-    bei("mnuFileClose", [this] { close(); });
-    bei("mnuFileExit", [this] { close(); });
+    connect(m_a.mnuFileClose, &QAction::triggered, this, [this] { close(); });
+    connect(m_a.mnuFileExit, &QAction::triggered, this, [this] { close(); });
+}
 
-    // View.
-    bei("mnuGitterlinienansicht",
-        [this] { Umschalten(s.GridAn, Aktion(QStringLiteral("mnuGitterlinienansicht")), false, true); });
-    bei("mnuHilfsbereiche",
-        [this] { Umschalten(s.HilfsbereicheAn, Aktion(QStringLiteral("mnuHilfsbereiche")), false, true); });
-    bei("mnuRahmensichtbar",
-        [this] { Umschalten(s.RahmenAnzeigen, Aktion(QStringLiteral("mnuRahmensichtbar")), false, true); });
-    bei("mmummgenau", [this] { Umschalten(s.MMGenau, Aktion(QStringLiteral("mmummgenau")), true, false); });
-    bei("mnuRahmenMagnet",
-        [this] { Umschalten(s.GitterAn, Aktion(QStringLiteral("mnuRahmenMagnet")), false, false); });
-    for (int p : {50, 100, 150, 200, 400})
-        connect(Aktion(QStringLiteral("mnuViewProzent%1").arg(p)), &QAction::triggered, this,
-                [this, p] { ZoomSetzen(p); });
-    bei("mnuViewSeitenbreite",
-        [this] { ZoomSetzen(ZoomSeitenbreite(s, m_seite->ViewportTwips(s.TwipsProPixelX).width())); });
-    bei("mnuViewganze_Seite", [this] {
+void FrmMain::AnsichtVerbinden() {
+    const struct {
+        QAction* aktion;
+        float& flag;
+        bool umgekehrt, neuzeichnen;
+    } schalter[] = {{m_a.mnuGitterlinienansicht, s.GridAn, false, true},
+                    {m_a.mnuHilfsbereiche, s.HilfsbereicheAn, false, true},
+                    {m_a.mnuRahmensichtbar, s.RahmenAnzeigen, false, true},
+                    {m_a.mmummgenau, s.MMGenau, true, false},
+                    {m_a.mnuRahmenMagnet, s.GitterAn, false, false}};
+    for (const auto& k : schalter)
+        connect(k.aktion, &QAction::triggered, this,
+                [this, a = k.aktion, &flag = k.flag, u = k.umgekehrt, n = k.neuzeichnen] {
+                    Umschalten(flag, a, u, n);
+                });
+    for (int i = 0; i < 5; ++i)
+        connect(m_a.mnuViewProzent[i], &QAction::triggered, this,
+                [this, p = Hauptaktionen::Prozente[i]] { ZoomSetzen(p); });
+    connect(m_a.mnuViewSeitenbreite, &QAction::triggered, this,
+            [this] { ZoomSetzen(ZoomSeitenbreite(s, m_seite->ViewportTwips(s.TwipsProPixelX).width())); });
+    connect(m_a.mnuViewganze_Seite, &QAction::triggered, this, [this] {
         const QSizeF vp = m_seite->ViewportTwips(s.TwipsProPixelX);
         ZoomSetzen(ZoomGanzeSeite(s, vp.width(), vp.height()));
     });
-    bei("Commandzoom_0", [this] { Commandzoom(0); });
-    bei("Commandzoom_1", [this] { Commandzoom(1); });
+    for (int richtung = 0; richtung <= 1; ++richtung)
+        connect(m_a.Commandzoom[richtung], &QAction::triggered, this,
+                [this, richtung] { ZoomSetzen(ZoomSchritt(s.Zoomfaktor, richtung == 1)); });
+}
 
-    // Help.
-    bei("mnuHelpContents", [this] { Hilfe(); });
+void FrmMain::HilfeVerbinden() {
+    Fensterantworten& ui = *m_antworten;
+    // Without a program for the address the user is told where to go.
+    const auto oeffnen = [&ui](const QUrl& adresse, const QString& ohne, const QString& titel,
+                               const QString& wohin) {
+        if (!ui.AdresseOeffnen(adresse)) ui.Meldung(ohne, titel, wohin);
+    };
     const QString keinBrowser =
         QStringLiteral("Die Seite konnte nicht geöffnet werden, weil kein Webbrowser eingerichtet ist. Bitte "
                        "rufen Sie diese Adresse selbst auf:");
-    bei("mnuHelpZP", [this, keinBrowser] {
+    connect(m_a.mnuHelpContents, &QAction::triggered, this, [this] { Hilfe(); });
+    connect(m_a.mnuHelpZP, &QAction::triggered, this, [oeffnen, keinBrowser] {
         const QUrl seite(QString::fromLatin1(Homepage));
-        if (!AdresseOeffnen(seite)) Meldung(keinBrowser, QStringLiteral("Zur ZP-Homepage"), seite.toString());
+        oeffnen(seite, keinBrowser, QStringLiteral("Zur ZP-Homepage"), seite.toString());
     });
-    bei("mnuHelpHotline", [this] {
+    connect(m_a.mnuHelpHotline, &QAction::triggered, this, [oeffnen] {
         const QUrl mail(QString::fromLatin1(Mailadresse));
-        if (!AdresseOeffnen(mail))
-            Meldung(QStringLiteral(
-                        "Die Mail konnte nicht begonnen werden, weil kein E-Mail-Programm eingerichtet "
-                        "ist. Bitte schreiben Sie an diese Adresse:"),
-                    QStringLiteral("Mail an den Autor"), mail.path());
+        oeffnen(mail,
+                QStringLiteral(
+                    "Die Mail konnte nicht begonnen werden, weil kein E-Mail-Programm eingerichtet ist. "
+                    "Bitte schreiben Sie an diese Adresse:"),
+                QStringLiteral("Mail an den Autor"), mail.path());
     });
-    bei("mnuupdate", [this, keinBrowser] {
+    connect(m_a.mnuupdate, &QAction::triggered, this, [this, oeffnen, keinBrowser] {
         QString version = s.Programmversion;
         version.remove(QLatin1Char('.'));
         const QUrl seite(QString::fromLatin1(Homepage) + QStringLiteral("update") + version +
                          QStringLiteral(".html"));
-        if (!AdresseOeffnen(seite))
-            Meldung(keinBrowser, QStringLiteral("Programm aktualisieren"), seite.toString());
+        oeffnen(seite, keinBrowser, QStringLiteral("Programm aktualisieren"), seite.toString());
     });
-    bei("mnuInfo", [this] {
+    connect(m_a.mnuInfo, &QAction::triggered, this, [this] {
         FrmInfo info(s, this);
         info.exec();
     });
-
-    // Panel switches.
-    for (int k = 1; k <= 5; ++k) {
-        connect(Aktion(QStringLiteral("Toolbar4_%1").arg(k)), &QAction::triggered, this,
-                [this, k] { Toolbar4Knopf(k); });
-        connect(Aktion(QStringLiteral("Toolbar5_%1").arg(k)), &QAction::triggered, this,
-                [this, k] { Toolbar5Knopf(k); });
-    }
-
-    // Text boxes: focus selects the box's frame, leaving it draws what is still pending.
-    for (int i = 1; i <= 30; ++i)
-        m_text1[i]->installEventFilter(this);
-    for (int i = 1; i <= 30; ++i) {
-        connect(m_text1[i], &QLineEdit::textChanged, this, [this, i](const QString& t) {
-            if (s.LadeSperre == 0) {
-                // The frame of the current text shows or hides with it before the page is drawn.
-                if (s.Schriftliste.Gueltig(i)) s.Schriftliste(i).Textstring = t;
-                const int nummer = static_cast<int>(s.SchriftNummer);
-                if (nummer >= 1 && s.Schriftliste.Gueltig(nummer))
-                    ApplyInlineText(s, s.Schriftliste(nummer).Textstring);
-            }
-            FeldboxGeaendert(s, *this, i, t);
-        });
-    }
-    connect(m_textTitel, &QLineEdit::textChanged, this, [this](const QString& t) {
-        if (s.LadeSperre != 0) return;
-        KalendertitelGeaendert(s, t);
-        Neuzeichnen();
-    });
-    connect(m_textUnterschrift, &QLineEdit::textChanged, this, [this](const QString& t) {
-        if (s.LadeSperre != 0) return;
-        KalenderunterschriftGeaendert(s, t);
-        Neuzeichnen();
-    });
-
-    // Records, layouts and gallery.
-    for (int k = 1; k <= 5; ++k)
-        connect(findChild<QPushButton*>(QStringLiteral("Command4_%1").arg(k)), &QPushButton::clicked, this,
-                [this, k] { LayoutKnopf(s, *this, k); });
-    auto knopf = [this](const char* name, auto f) {
-        connect(findChild<QPushButton*>(QString::fromLatin1(name)), &QPushButton::clicked, this, f);
-    };
-    knopf("ComData1", [this] { ErsterDatensatz(s, *this); });
-    knopf("ComData2", [this] { VorigerDatensatz(s, *this); });
-    knopf("Comdata3", [this] { NaechsterDatensatz(s, *this); });
-    knopf("Comdata4", [this] { LetzterDatensatz(s, *this); });
-    knopf("Command1",
-          [this] { SucheDatensatz(s, *this, findChild<QLineEdit*>(QStringLiteral("TextSuchen"))->text()); });
-    knopf("Command2", [this] { LoescheDatensatz(s, *this); });
-    knopf("Command3", [this] { FuegeDatensatzEin(s, *this); });
-    connect(m_textData, &QLineEdit::returnPressed, this,
-            [this] { DatensatzNummerEingegeben(s, *this, m_textData->text()); });
-    connect(m_list1, &QListWidget::currentRowChanged, this, [this](int zeile) {
-        if (s.LadeSperre != 0) return;
-        GalerieLaden(s, *this, m_d, zeile);
-    });
-
-    // Calendar: type, year, variant, pages, standard design, holidays, refresh.
-    auto nachDesign = [this] {
-        SeitentitelAktualisieren();
-        PanelAktualisieren();
-        AuswahlAktualisieren();
-        Aktion(QStringLiteral("Toolbar5_4"))
-            ->setVisible(static_cast<int>(s.Kalendertyp) == 4 || static_cast<int>(s.Kalendertyp) == 5);
-        Neuzeichnen();
-    };
-    for (int t = 1; t <= 7; ++t)
-        connect(m_typ[t], &QPushButton::clicked, this, [this, t, nachDesign] {
-            if (CommandTyp(s, *this, Ablage(), t)) nachDesign();
-        });
-    connect(m_comboVariante, &QComboBox::activated, this, [this, nachDesign] {
-        if (ComboVariante(s, *this, Ablage(), m_comboVariante->currentText())) nachDesign();
-    });
-    connect(m_comboJahr, &QComboBox::activated, this, [this](int i) { JahrGeklickt(i); });
-    connect(m_comboJahr->lineEdit(), &QLineEdit::editingFinished, this, [this] { JahrGetipptBefehl(); });
-    connect(m_upDownSeite, &QSpinBox::valueChanged, this, [this](int seite) {
-        if (SeiteWaehlen(s, seite)) {
-            const QSignalBlocker b(m_textSeite);
-            m_textSeite->setText(QString::number(seite));
-            Neuzeichnen();
-        }
-    });
-    connect(m_textSeite, &QLineEdit::textEdited, this, [this] { SeiteGetippt(); });
-    connect(findChild<QPushButton*>(QStringLiteral("CommandStandard")), &QPushButton::clicked, this,
-            [this, nachDesign] {
-                if (CommandStandard(s, *this, Ablage())) nachDesign();
-            });
-    connect(Aktion(QStringLiteral("mnukalender")), &QAction::triggered, this, [this, nachDesign] {
-        if (CommandStandard(s, *this, Ablage())) nachDesign();
-    });
-    connect(findChild<QPushButton*>(QStringLiteral("CommandBerechnen")), &QPushButton::clicked, this, [this] {
-        DienstAusfuehren(m_d.CommandBerechnen, s, *this);
-        TagesmarkenAufbauen(s);
-        FeiertagAnzeigen(s);
-        KalenderpanelZeigen();
-        Neuzeichnen();
-    });
-    for (const char* name : {"CommandAktualisieren", "CommandAktualisieren2"})
-        connect(findChild<QPushButton*>(QString::fromLatin1(name)), &QPushButton::clicked, this,
-                [this] { Neuzeichnen(); });
-
-    // Day data.
-    connect(m_monat1, &Monatskalender::auswahlGeaendert, this, [this] {
-        TerminAngeklickt();
-        m_textTermin->setFocus();
-    });
-    connect(m_monat2, &Monatskalender::auswahlGeaendert, this, [this] {
-        FeiertagAngeklickt();
-        m_textFeiertag->setFocus();
-    });
-    // Paging a view to another month marks the days of the month shown; the selected day, and so
-    // what the boxes show and change, stays.
-    for (Monatskalender* v : {m_monat1, m_monat2})
-        connect(v, &QCalendarWidget::currentPageChanged, this, [this, v](int jahr, int monat) {
-            MonatGeblaettert(s, v == m_monat2, jahr, monat);
-            if (s.LadeSperre == 0) KalenderpanelZeigen();
-        });
-    connect(m_textTermin, &QPlainTextEdit::textChanged, this, [this] { TerminGeaendert(); });
-    connect(m_textFeiertag, &QLineEdit::textChanged, this, [this] { FeiertagGeaendert(); });
-    for (int art = 0; art < 4; ++art)
-        connect(m_farbfeld[art], &QToolButton::clicked, this, [this, art] { FarbfeldGeklickt(art); });
-
-    // Month pictures.
-    connect(m_comboMonat, &QComboBox::activated, this, [this](int i) {
-        MonatsbildWaehlen(s, i);
-        KalenderpanelZeigen();
-    });
-    connect(m_textBildbeschreibung, &QLineEdit::textChanged, this, [this](const QString& t) {
-        if (s.LadeSperre == 0) BildbeschreibungGeaendert(s, t);
-    });
-    connect(m_textbilddatei, &QLineEdit::textChanged, this, [this](const QString& t) {
-        if (s.LadeSperre != 0) return;
-        const bool neuzeichnen = BilddateiGeaendert(s, t);
-        Vorschaubild();
-        if (neuzeichnen) Neuzeichnen();
-    });
-    connect(findChild<QPushButton*>(QStringLiteral("CommandDurchsuchen")), &QPushButton::clicked, this,
-            [this] {
-                const QString datei = DateiWaehlen(
-                    QStringLiteral("Öffnen"), QStringLiteral("BMP (*.bmp)|*.bmp|JPG (*.jpg)|*.jpg"), false);
-                if (!datei.isEmpty()) m_textbilddatei->setText(datei);
-            });
-
-    // The page's context menu.
-    Seitenbild* seite = m_seite->PictureSeite();
-    seite->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(seite, &QWidget::customContextMenuRequested, this, [this, seite](const QPoint& p) {
-        if (auto* pop = findChild<QMenu*>(QStringLiteral("PopSchrift"))) pop->popup(seite->mapToGlobal(p));
-    });
-
-    // The page: pointer position in the status bar.
-    connect(m_seite->PictureSeite(), &Seitenbild::zeigerBewegt, this, [this](QPoint p) {
-        const double f =
-            s.Zoomfaktor / 100.0 * TwipsJeZehntelmm / (s.TwipsProPixelX > 0 ? s.TwipsProPixelX : 15);
-        m_status[1]->setText(QStringLiteral("x: %1 mm").arg(p.x() / f / 10.0, 0, 'f', 1));
-        m_status[2]->setText(QStringLiteral("y: %1 mm").arg(p.y() / f / 10.0, 0, 'f', 1));
-    });
-}
-
-bool FrmMain::eventFilter(QObject* objekt, QEvent* e) {
-    if (e->type() == QEvent::FocusIn || e->type() == QEvent::FocusOut) {
-        for (int i = 1; i <= 30; ++i) {
-            if (objekt != m_text1[i]) continue;
-            if (e->type() == QEvent::FocusIn && s.Auswahlmodus == 0) {
-                // The box's text object and frame become the current ones.
-                s.LadeSperre = 255;
-                s.SchriftNummer = i;
-                s.RahmenNummer = i;
-                AuswahlAktualisieren();
-                s.LadeSperre = 0;
-                Neuzeichnen();
-            } else if (e->type() == QEvent::FocusOut && s.NeuzeichnenOffen != 0) {
-                s.NeuzeichnenOffen = 0;
-                if (s.LadeSperre == 0) Neuzeichnen();
-            }
-            break;
-        }
-    }
-    return QMainWindow::eventFilter(objekt, e);
 }
 
 void FrmMain::Freigaben() {
-    // Entries whose work comes with the frame editing, the property dialogs or exports that
-    // aren't part of this build stay in place, disabled.
-    const char* spaeter[] = {"mnuFilePageSetup",
-                             "mnuBrief",
-                             "mnuKartengrösse",
-                             "mnuDesign",
-                             "mnuRaster",
-                             "mnubildeinfügen",
-                             "mnuLinieeinfügen",
-                             "mnuTexteinfügen",
-                             "mnudatumeinfuegen",
-                             "mnuzeit",
-                             "mnuseriennummer",
-                             "mnuFeiertage",
-                             "mnukalendereditieren",
-                             "mnuRahmenEinfügen",
-                             "mnuRahmenLöschen",
-                             "mnuRahmenPositionieren",
-                             "mnuverankert",
-                             "mnuVerankernAlle",
-                             "mnuVerankernKeine",
-                             "mnuRahmenvorne",
-                             "mnuRahmenhinten",
-                             "mnuRahmeneinsvorn",
-                             "mnuRahmeneinshinten",
-                             "popEigenschaft",
-                             "popPositionieren",
-                             "mnuVerankern",
-                             "popLoeschen",
-                             "popganzvorn",
-                             "popganzhinten",
-                             "popeinsvor",
-                             "popeinshinten",
-                             "Toolbar1_Eigenschaft",
-                             "Toolbar1_Einfügen",
-                             "Toolbar4_5",
-                             "Toolbar5_5"};
-    for (const char* name : spaeter)
-        Aktion(QString::fromUtf8(name))->setEnabled(false);
-    findChild<QPushButton*>(QStringLiteral("CommandOptionen"))->setEnabled(false);
-
-    // Entries that need another area's function are enabled when it is bound.
-    const bool kalender = s.IstKalender != 0;
-    const bool laden = static_cast<bool>(m_d.LoadDesign);
-    const bool speichern = static_cast<bool>(m_d.SaveDesign);
-    const bool oeffnen = laden || (kalender && m_d.LadeDaten);
-    const bool sichern = speichern || (kalender && m_d.SpeichereDaten);
-    Aktion(QStringLiteral("mnuFileOpen"))->setEnabled(oeffnen);
-    Aktion(QStringLiteral("Toolbar1_Öffnen"))->setEnabled(oeffnen);
-    for (const char* name : {"mnuFileSave", "mnuFileSaveAs", "mnuFileSaveAs2", "Toolbar1_Speichern"})
-        Aktion(QString::fromUtf8(name))->setEnabled(sichern);
-    Aktion(QStringLiteral("mnuFileNew"))->setEnabled(kalender ? static_cast<bool>(m_d.KalenderNeu) : laden);
-    Aktion(QStringLiteral("Toolbar1_Neu"))->setEnabled(Aktion(QStringLiteral("mnuFileNew"))->isEnabled());
-    Aktion(QStringLiteral("mnukalender"))->setEnabled(laden);
-    findChild<QPushButton*>(QStringLiteral("CommandStandard"))->setEnabled(laden);
-    for (int t = 1; t <= 7; ++t)
-        m_typ[t]->setEnabled(laden && speichern);
-    m_comboVariante->setEnabled(laden && speichern);
-    m_list1->setEnabled(laden);
-    Aktion(QStringLiteral("mnuBildSpeichern"))->setEnabled(static_cast<bool>(m_d.BildSpeichern));
-    Aktion(QStringLiteral("mnuWord"))->setEnabled(static_cast<bool>(m_d.Word));
-    Aktion(QStringLiteral("mnuFilePrint"))->setEnabled(true);
-    findChild<QPushButton*>(QStringLiteral("CommandBerechnen"))
-        ->setEnabled(static_cast<bool>(m_d.CommandBerechnen));
+    // Entries whose work isn't part of this build stay in place, disabled: the letter body.
+    for (QAction* a : {m_a.mnuBrief})
+        a->setEnabled(false);
 }
 
 void FrmMain::EditionAnwenden() {
     // What the window is built with, before the edition changes it.
-    for (const char* name : {"mnuFeiertage", "mnukalender", "mnukalendereditieren", "mnuVerankernAlle",
-                             "mnuVerankernKeine", "mnuimport", "mnuFileSaveAs2"})
-        Aktion(QString::fromUtf8(name))->setVisible(false);
-    m_toolbar4->setVisible(true);
-    m_toolbar5->setVisible(false);
+    for (QAction* a : {m_a.mnuFeiertage, m_a.mnukalender, m_a.mnukalendereditieren, m_a.mnuVerankernAlle,
+                       m_a.mnuVerankernKeine, m_a.mnuimport, m_a.mnuFileSaveAs2})
+        a->setVisible(false);
+    m_a.Toolbar4->setVisible(true);
+    m_a.Toolbar5->setVisible(false);
 
+    // The edition's rules name their controls: toolbars by themselves, everything else by its entry.
     const Edition e = AktuelleEdition(s);
     for (const Steuerelementregel& r : Editionsregeln(e)) {
-        if (r.name == QLatin1String("Toolbar4") || r.name == QLatin1String("Toolbar5")) {
-            QToolBar* t = r.name == QLatin1String("Toolbar4") ? m_toolbar4 : m_toolbar5;
-            if (r.sichtbar) t->setVisible(*r.sichtbar);
+        if (auto* leiste = findChild<QToolBar*>(r.name)) {
+            if (r.sichtbar) leiste->setVisible(*r.sichtbar);
             continue;
         }
         QAction* a = Aktion(r.name);
@@ -418,16 +201,16 @@ void FrmMain::EditionAnwenden() {
         if (r.titel) a->setText(*r.titel);
     }
     // The calendar's menu entry for frame editing belongs to the calendar.
-    Aktion(QStringLiteral("mnukalendereditieren"))->setVisible(e == Edition::Kalender);
+    m_a.mnukalendereditieren->setVisible(e == Edition::Kalender);
 }
 
 void FrmMain::Haekchen() {
-    Aktion(QStringLiteral("mnuSitzung"))->setChecked(SitzungWiederherstellenAn(s));
-    Aktion(QStringLiteral("mnuRahmensichtbar"))->setChecked(s.RahmenAnzeigen == -1);
-    Aktion(QStringLiteral("mnuRahmenMagnet"))->setChecked(s.GitterAn == -1);
-    Aktion(QStringLiteral("mmummgenau"))->setChecked(s.MMGenau != 0);
-    Aktion(QStringLiteral("mnuGitterlinienansicht"))->setChecked(s.GridAn != 0);
-    Aktion(QStringLiteral("mnuHilfsbereiche"))->setChecked(s.HilfsbereicheAn != 0);
+    m_a.mnuSitzung->setChecked(SitzungWiederherstellenAn(s));
+    m_a.mnuRahmensichtbar->setChecked(s.RahmenAnzeigen == -1);
+    m_a.mnuRahmenMagnet->setChecked(s.GitterAn == -1);
+    m_a.mmummgenau->setChecked(s.MMGenau != 0);
+    m_a.mnuGitterlinienansicht->setChecked(s.GridAn != 0);
+    m_a.mnuHilfsbereiche->setChecked(s.HilfsbereicheAn != 0);
 }
 
 void FrmMain::Umschalten(float& flag, QAction* a, bool umgekehrt, bool neuzeichnen) {
@@ -439,142 +222,55 @@ void FrmMain::Umschalten(float& flag, QAction* a, bool umgekehrt, bool neuzeichn
 
 void FrmMain::Toolbar4Knopf(int knopf) {
     static const int panel[] = {0, 1, 4, 3, 5};
+    if (knopf == 5) { // a command, not a panel: the sheet and card size
+        m_a.Toolbar4_[5]->setChecked(false);
+        SeiteEinrichten(FrmSeite::TabKarte);
+        if (m_privat.isValid()) Schnappschuss(s, *m_antworten, m_privat.path());
+        return;
+    }
     if (knopf < 1 || knopf > 4) return;
     for (int k = 1; k <= 4; ++k)
-        Aktion(QStringLiteral("Toolbar4_%1").arg(k))->setChecked(k == knopf);
+        m_a.Toolbar4_[k]->setChecked(k == knopf);
     Panelzeigen(panel[knopf]);
-    if (knopf == 1) m_text1[1]->setFocus();
-    if (knopf >= 2) Schnappschuss();
+    if (auto* p = qobject_cast<Seitenpanel*>(m_frame1->currentWidget()); p && knopf == 1) p->Betreten();
+    if (knopf >= 2 && m_privat.isValid()) Schnappschuss(s, *m_antworten, m_privat.path());
 }
 
 void FrmMain::Toolbar5Knopf(int knopf) {
     static const int panel[] = {0, 8, 6, 7, 9};
-    if (knopf < 1 || knopf > 4) return;
-    for (int k = 1; k <= 4; ++k)
-        Aktion(QStringLiteral("Toolbar5_%1").arg(k))->setChecked(k == knopf);
-    Panelzeigen(panel[knopf]);
-    if (knopf == 2) m_textTermin->setFocus();
-    if (knopf == 3) m_textFeiertag->setFocus();
-}
-
-void FrmMain::Schnappschuss() {
-    // A copy of the design in the temporary folder; the user's file name stays.
-    if (!m_d.SaveDesign) return;
-    const QString gemerkt = s.AktuelleDatei;
-    s.AktuelleDatei = QDir::tempPath() + QStringLiteral("/test.zpb");
-    DienstAusfuehren(m_d.SaveDesign, s, *this);
-    s.AktuelleDatei = gemerkt;
-}
-
-// ---- Calendar side panel ----------------------------------------------------------------------
-// The rules live with the day data; the window hands them the selection and shows the result.
-
-Designablage FrmMain::Ablage() {
-    Designablage a;
-    if (m_d.SaveDesign)
-        a.speichern = [this](AppState& st) { return DienstAusfuehren(m_d.SaveDesign, st, *this); };
-    if (m_d.LoadDesign)
-        a.laden = [this](AppState& st) { return DienstAusfuehren(m_d.LoadDesign, st, *this); };
-    return a;
-}
-
-void FrmMain::KalenderpanelZeigen() {
-    const uint8_t sperre = s.LadeSperre;
-    s.LadeSperre = 255;
-    const Seitenleiste& p = s.Panel;
-    const QString termin = OhneCrLf(p.TextTermin);
-    if (m_textTermin->toPlainText() != termin) m_textTermin->setPlainText(termin);
-    if (m_textFeiertag->text() != p.TextFeiertag) m_textFeiertag->setText(p.TextFeiertag);
-    FarbfeldZeigen(m_farbfeld[0], p.PictureTextfarbe);
-    FarbfeldZeigen(m_farbfeld[1], p.PictureHintergrundfarbe);
-    FarbfeldZeigen(m_farbfeld[2], p.PictureFeiertagSchrift);
-    FarbfeldZeigen(m_farbfeld[3], p.PictureFeiertagBack);
-    m_monat1->AusZustand(p.MonthView1);
-    m_monat2->AusZustand(p.MonthView2);
-    if (m_comboMonat->count() == 12 && m_comboMonat->currentIndex() != p.ComboMonat)
-        m_comboMonat->setCurrentIndex(std::clamp(p.ComboMonat, 0, 11));
-    if (m_textbilddatei->text() != p.Textbilddatei) m_textbilddatei->setText(p.Textbilddatei);
-    if (m_textBildbeschreibung->text() != p.TextBildbeschreibung)
-        m_textBildbeschreibung->setText(p.TextBildbeschreibung);
-    Vorschaubild();
-    s.LadeSperre = sperre;
-}
-
-void FrmMain::TerminAngeklickt() {
-    m_monat1->InZustand(s.Panel.MonthView1);
-    TerminAnzeigen(s);
-    KalenderpanelZeigen();
-}
-
-void FrmMain::FeiertagAngeklickt() {
-    m_monat2->InZustand(s.Panel.MonthView2);
-    FeiertagAnzeigen(s);
-    KalenderpanelZeigen();
-}
-
-void FrmMain::TerminGeaendert() {
-    if (s.LadeSperre != 0) return;
-    m_monat1->InZustand(s.Panel.MonthView1);
-    TextTerminGeaendert(s, MitCrLf(m_textTermin->toPlainText()));
-    KalenderpanelZeigen();
-}
-
-void FrmMain::FeiertagGeaendert() {
-    if (s.LadeSperre != 0) return;
-    m_monat2->InZustand(s.Panel.MonthView2);
-    TextFeiertagGeaendert(s, m_textFeiertag->text());
-    KalenderpanelZeigen();
-}
-
-void FrmMain::FarbfeldGeklickt(int art) {
-    const auto welche = static_cast<Tagesfarbe>(art);
-    m_monat1->InZustand(s.Panel.MonthView1);
-    m_monat2->InZustand(s.Panel.MonthView2);
-    const int start = TagesfarbeStart(s, welche);
-    const auto c = FarbeWaehlen(QColor(start & 0xFF, (start >> 8) & 0xFF, (start >> 16) & 0xFF));
-    if (!c) return; // cancelled: nothing changes
-    TagesfarbeGewaehlt(s, welche, AlsFarbe(*c));
-    KalenderpanelZeigen();
-    Neuzeichnen();
-}
-
-void FrmMain::JahrGetipptBefehl() {
-    // Enter or leaving the box: a year the views don't show yet acts as a pick from the list.
-    if (!JahrBestaetigt(s, *this, m_comboJahr->currentText().trimmed()))
-        m_comboJahr->setEditText(QString::number(static_cast<long long>(s.Kalenderjahr)));
-}
-
-void FrmMain::JahrGeklickt(int index) {
-    const int jahr = static_cast<int>(basic::Val(m_comboJahr->itemText(index)));
-    JahrGewaehlt(s, *this, jahr); // shows the panel and redraws through the window
-}
-
-void FrmMain::SeiteGetippt() {
-    const Seiteneingabe e = SeiteAusText(m_textSeite->text(), s.Seitenanzahl);
-    if (e.textZuruecksetzen) {
-        const QSignalBlocker b(m_textSeite);
-        m_textSeite->setText(QStringLiteral("1"));
-    }
-    m_upDownSeite->setValue(e.seite);
-    if (SeiteWaehlen(s, e.seite)) Neuzeichnen();
-}
-
-void FrmMain::Vorschaubild() {
-    // LeadKalender: a thumbnail of the month's picture while its file exists.
-    const QString datei = m_textbilddatei->text();
-    QImage bild;
-    if (QFileInfo::exists(datei)) {
-        QImageReader leser(datei);
-        leser.setAutoTransform(true);
-        bild = leser.read();
-    }
-    if (bild.isNull()) {
-        m_leadKalender->hide();
+    if (knopf == 5) { // a command, not a panel: the calendar's design, elsewhere the card size
+        m_a.Toolbar5_[5]->setChecked(false);
+        if (s.IstKalender != 0) {
+            KalenderdesignZeigen();
+        } else {
+            Panelzeigen(4);
+            SeiteEinrichten(FrmSeite::TabKarte);
+        }
         return;
     }
-    m_leadKalender->setPixmap(QPixmap::fromImage(
-        bild.scaled(m_leadKalender->size(), Qt::KeepAspectRatio, Qt::SmoothTransformation)));
-    m_leadKalender->show();
+    if (knopf < 1 || knopf > 4) return;
+    for (int k = 1; k <= 4; ++k)
+        m_a.Toolbar5_[k]->setChecked(k == knopf);
+    Panelzeigen(panel[knopf]);
+    if (auto* p = qobject_cast<Seitenpanel*>(m_frame1->currentWidget())) p->Betreten();
+}
+
+void FrmMain::SeiteEinrichten(int tab) {
+    if (FrmSeite::Zeigen(s, *m_antworten, tab, this)) ApplyZoom();
+}
+
+void FrmMain::KalenderdesignZeigen() {
+    // The design dialog opens the text and shape dialogs on the role's frame that it has chosen.
+    const auto schrift = [this](AppState& st, int) {
+        SchriftdialogAusfuehren(this, st, *m_antworten, 1);
+        return true;
+    };
+    const auto linie = [this](AppState& st, int) {
+        LiniendialogAusfuehren(this, st, *m_antworten, 1);
+        return true;
+    };
+    FrmKalenderdesign(s, schrift, linie, this).exec();
+    Neuzeichnen();
 }
 
 // ---- Help and printing ------------------------------------------------------------------------
@@ -584,25 +280,21 @@ void FrmMain::Hilfe() {
     if (datei.endsWith(QLatin1String(".hlp"), Qt::CaseInsensitive))
         datei = datei.left(datei.size() - 4) + ".html";
     if (datei.isEmpty() || !QFileInfo::exists(datei)) {
-        Meldung(
+        m_antworten->Meldung(
             QStringLiteral("Hilfeinhalt konnte nicht angezeigt werden. Dieser Anwendung ist keine Hilfedatei "
                            "zugeordnet."),
             s.Programmname, datei);
         return;
     }
-    if (!AdresseOeffnen(QUrl::fromLocalFile(datei)))
-        Meldung(
+    if (!m_antworten->AdresseOeffnen(QUrl::fromLocalFile(datei)))
+        m_antworten->Meldung(
             QStringLiteral("Die Hilfe konnte nicht angezeigt werden, weil kein Webbrowser eingerichtet ist. "
                            "Sie können die Hilfedatei selbst öffnen:"),
             s.Programmname, datei);
 }
 
-bool FrmMain::AdresseOeffnen(const QUrl& adresse) {
-    return QDesktopServices::openUrl(adresse);
-}
-
 void FrmMain::Drucken() {
-    FrmDrucken dialog(s, *this, m_d, this);
+    FrmDrucken dialog(s, *m_antworten, this);
     dialog.exec();
     Neuzeichnen();
 }

@@ -1,9 +1,7 @@
-// Starting the window: German texts in Qt's own dialogs, the functions of the other areas bound
-// to the commands, then the load handler and the event loop.
+// Starting the window: German texts in Qt's own dialogs, then the load handler and the event loop.
 #include "dialogs/Hauptfenster.h"
 #include "dialogs/FrmMain.h"
 
-#include "core/Programmdienste.h"
 #include "core/state/AppState.h"
 
 #include <QApplication>
@@ -13,10 +11,6 @@
 #include <QTranslator>
 
 namespace zp {
-
-Dokumentdienste VorhandeneDienste() {
-    return ProgrammDienste();
-}
 
 int StarteHauptfenster(AppState& s) {
     auto* app = qobject_cast<QApplication*>(QCoreApplication::instance());
@@ -30,7 +24,7 @@ int StarteHauptfenster(AppState& s) {
         app->installTranslator(&qtDeutsch);
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
 
-    FrmMain fenster(s, VorhandeneDienste());
+    FrmMain fenster(s);
     fenster.Laden();
     fenster.show();
     return app->exec();

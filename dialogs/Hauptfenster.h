@@ -3,11 +3,6 @@
 
 namespace zp {
 struct AppState;
-struct Dokumentdienste;
-
-// The functions of the other areas that this build has, bound for the window's commands.
-[[nodiscard]] Dokumentdienste VorhandeneDienste();
-
 // Shows frmMain on `s` (start-up has run) and runs the event loop; returns the exit status.
 int StarteHauptfenster(AppState& s);
 } // namespace zp

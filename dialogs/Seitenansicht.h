@@ -12,7 +12,13 @@ class QFrame;
 
 namespace zp {
 
-// PictureSeite: shows the composed page.
+struct AppState;
+struct Mausantwort;
+class Oberflaeche;
+
+// PictureSeite: shows the composed page, and takes the mouse and keys for editing its frames.
+// While a frame is dragged or drawn only the outline over the last picture is painted anew; the
+// page itself is composed again on release.
 class Seitenbild : public QWidget {
     Q_OBJECT
 public:
@@ -20,18 +26,38 @@ public:
     void BildSetzen(QImage bild);
     [[nodiscard]] const QImage& Bild() const { return m_bild; }
     [[nodiscard]] QSize sizeHint() const override { return m_bild.size(); }
+    // The frames of `s` become editable: mouse, Delete and the arrow keys call the commands.
+    void Bearbeiten(AppState& s, Oberflaeche& ui);
 
 signals:
-    // The pointer over the page, in pixels of the picture.
-    void zeigerBewegt(QPoint pixel);
+    // The status panels "x = ", "y = ": whole tenths of a millimetre.
+    void statusGeaendert(int x, int y);
+    // A right click on the page: PopSchrift at `global`, "Verankern" checked when `verankert`.
+    void kontextmenue(QPoint global, bool verankert);
 
 protected:
     void paintEvent(QPaintEvent*) override;
+    void mousePressEvent(QMouseEvent* e) override;
     void mouseMoveEvent(QMouseEvent* e) override;
+    void mouseReleaseEvent(QMouseEvent* e) override;
+    void keyPressEvent(QKeyEvent* e) override;
 
 private:
+    QPointF Twips(QPointF pixel) const;
+    QPointF Eingefangen(QMouseEvent* e);
+    void Umsetzen(const Mausantwort& a, QMouseEvent* e);
+    void UmrissAktualisieren();
+
     QImage m_bild;
+    AppState* m_s = nullptr;
+    Oberflaeche* m_ui = nullptr;
+    bool m_gefangen = false;
+    QRect m_grenze; // the visible part of the page while the pointer is held on it
+    QRect m_umriss; // the outline as last painted, pixels
 };
+
+// The Qt pointer shape for a mouse pointer number.
+[[nodiscard]] Qt::CursorShape Zeigerform(int zeiger);
 
 // PictureLinealX / PictureLinealY: ticks every 1 or 2 mm and every centimetre, from the page's
 // origin; they don't follow the scrolling.

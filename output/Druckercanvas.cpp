@@ -1,5 +1,6 @@
 #include "output/Druckercanvas.h"
 
+#include "core/runtime/Dateischreiber.h"
 #include "output/Druckerliste.h"
 
 #include <QDir>
@@ -33,7 +34,9 @@ DruckerHalter::DruckerHalter(const QString& drucker, const QString& pdfDatei, co
     m_pdf = drucker == kPdfDatei;
     if (m_pdf) {
         m_ziel = QFileInfo(pdfDatei).absoluteFilePath();
-        m_zwischen = m_ziel + QStringLiteral(".entsteht");
+        // A private file beside the target until the last page is done; a planted name can't
+        // redirect it.
+        m_zwischen = LegeZwischendateiAn(m_ziel, &m_anlegefehler);
         m_pdfDatei = std::make_unique<QPdfWriter>(m_zwischen);
         m_pdfDatei->setResolution(kPdfAufloesung);
         // The paper's corner is the origin: a file has no unprintable margin.
@@ -63,7 +66,7 @@ Druckercanvas::Druckercanvas(const QString& drucker, const QString& pdfDatei, co
 Druckercanvas::~Druckercanvas() {
     if (m_maler.isActive()) m_maler.end();
     // An unfinished file never replaces the target.
-    if (m_pdf) QFile::remove(m_zwischen);
+    if (m_pdf && !m_zwischen.isEmpty()) QFile::remove(m_zwischen);
 }
 
 void Druckercanvas::SeiteEinrichten() {
@@ -85,6 +88,11 @@ bool Druckercanvas::Oeffne() {
     if (m_pdf && !QFileInfo(QFileInfo(m_ziel).absolutePath()).isWritable()) {
         m_fehler = QStringLiteral("Der Ordner \"%1\" fehlt oder ist schreibgeschützt.")
                        .arg(QDir::toNativeSeparators(QFileInfo(m_ziel).absolutePath()));
+        return false;
+    }
+    if (m_pdf && m_zwischen.isEmpty()) {
+        m_fehler = QStringLiteral("Die Datei \"%1\" kann nicht angelegt werden: %2")
+                       .arg(QDir::toNativeSeparators(m_ziel), m_anlegefehler);
         return false;
     }
     if (!m_pdf && !m_drucker->isValid()) {
@@ -128,10 +136,10 @@ bool Druckercanvas::Abschliessen() {
     m_auftragOffen = false;
     if (!m_pdf || !warOffen) return true;
     // The finished file takes the target's place in one step.
-    if (std::rename(QFile::encodeName(m_zwischen).constData(), QFile::encodeName(m_ziel).constData()) != 0) {
-        m_fehler = QStringLiteral("Die Datei \"%1\" kann nicht geschrieben werden.")
-                       .arg(QDir::toNativeSeparators(m_ziel));
-        QFile::remove(m_zwischen);
+    QString grund;
+    if (m_zwischen.isEmpty() || !SchliesseZwischendateiAb(m_zwischen, m_ziel, &grund)) {
+        m_fehler = QStringLiteral("Die Datei \"%1\" kann nicht geschrieben werden: %2")
+                       .arg(QDir::toNativeSeparators(m_ziel), m_zwischen.isEmpty() ? m_anlegefehler : grund);
         return false;
     }
     return true;

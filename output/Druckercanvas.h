@@ -27,8 +27,9 @@ struct DruckerHalter {
     int m_aufloesung = 600;                 // dots per inch
     QPainter m_maler;
     bool m_pdf = false;
-    QString m_ziel;     // the PDF file the user named
-    QString m_zwischen; // the file being written until the request is complete
+    QString m_ziel;         // the PDF file the user named
+    QString m_zwischen;     // the file being written until the request is complete
+    QString m_anlegefehler; // why the file being written could not be created
 };
 
 class Druckercanvas : private DruckerHalter, public PainterCanvas, public Druckausgabe {

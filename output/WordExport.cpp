@@ -1,5 +1,6 @@
 #include "output/WordExport.h"
 
+#include "core/runtime/TextDatei.h"
 #include "core/state/AppState.h"
 #include "core/state/Oberflaeche.h"
 #include "core/state/Zeichenkontext.h"
@@ -9,7 +10,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -74,27 +74,25 @@ QString mnuWord(AppState& s, Oberflaeche& o, const Exportbild& exportbild, const
         return {};
     }
 
-    // The picture goes through a file in the temporary folder, as the word processor gets it.
-    const QString bmp = QDir(QDir::tempPath()).filePath(QStringLiteral("test.bmp"));
-    if (seite.isNull() || !seite.save(bmp, "BMP")) {
-        o.Meldung(QStringLiteral("Das Bild der Seite konnte nicht im temporären Ordner gespeichert werden."),
-                  kTitel, bmp);
+    if (seite.isNull()) {
+        o.Meldung(QStringLiteral("Die Seite konnte nicht als Bild gezeichnet werden."), kTitel);
         return {};
     }
-    const QImage bild(bmp);
-    QFile::remove(bmp);
+    // The word processor gets the page as a bitmap would hold it: opaque, 8 bits a colour.
+    const QImage bild = seite.convertToFormat(QImage::Format_RGB32);
 
     const double breiteMm =
         (s.AktuellesEtikett.Breite > 0 ? s.AktuellesEtikett.Breite : s.AktuelleSeite.Breite) / 10.0;
     const QString pfad = ziel.isEmpty() ? NeuerDokumentpfad() : ziel;
-    // The zip writer closes its device, which a QSaveFile refuses: the document is built in memory.
+    // The zip writer closes its device: the document is built in memory, then written in one step.
     QBuffer puffer;
     puffer.open(QIODevice::WriteOnly);
-    const bool gebaut = SchreibeWorddokument(bild, breiteMm, puffer);
-    QSaveFile datei(pfad);
-    if (!gebaut || !datei.open(QIODevice::WriteOnly) || datei.write(puffer.data()) != puffer.data().size() ||
-        !datei.commit()) {
-        o.Meldung(QStringLiteral("Das Dokument konnte nicht geschrieben werden."), kTitel, pfad);
+    QString grund;
+    if (!SchreibeWorddokument(bild, breiteMm, puffer))
+        grund = QStringLiteral("Das Dokument konnte nicht erzeugt werden.");
+    if (!grund.isEmpty() || !SchreibeDateiAtomar(pfad, puffer.data(), &grund)) {
+        o.Meldung(QStringLiteral("Das Dokument konnte nicht geschrieben werden."), kTitel,
+                  QDir::toNativeSeparators(pfad) + QStringLiteral(": ") + grund);
         return {};
     }
     if (oeffnen && !QDesktopServices::openUrl(QUrl::fromLocalFile(pfad))) {

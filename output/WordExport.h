@@ -29,10 +29,10 @@ inline constexpr int kLeerzeilenUnterDemBild = 14;
 // Draws the page for export (the export bitmap with ExportAktiv set).
 using Exportbild = std::function<QImage(AppState&)>;
 
-// mnuWord: the page drawn into the export bitmap, saved as "test.bmp" in the temporary folder,
-// put into an OpenDocument text at `ziel` (empty: a new file in the documents folder) and the
-// temporary picture removed. With `oeffnen` the desktop's application for the document opens it.
-// Returns the document's path, empty on failure (the user has had a message).
+// mnuWord: the page drawn into the export bitmap, made opaque as a bitmap file would hold it, and
+// put into an OpenDocument text at `ziel` (empty: a new file in the documents folder), written
+// atomically; no file of the temporary folder is used. With `oeffnen` the desktop's application for the
+// document opens it. Returns the document's path, empty on failure (the user has had a message).
 QString mnuWord(AppState& s, Oberflaeche& o, const Exportbild& exportbild, const QString& ziel, bool oeffnen);
 
 } // namespace zp

@@ -12,7 +12,10 @@ void MeldeFalschesFormat(Oberflaeche& ui, const QString& datei, const Lesefehler
 }
 
 void MeldeSchreibfehler(Oberflaeche& ui, const QString& datei, const QString& grund) {
-    ui.Meldung(QStringLiteral("Die Datei %1 konnte nicht geschrieben werden.").arg(datei),
+    ui.Meldung(datei.isEmpty()
+                   ? QStringLiteral("Die Datei konnte nicht geschrieben werden: es ist kein Dateiname "
+                                    "angegeben.")
+                   : QStringLiteral("Die Datei %1 konnte nicht geschrieben werden.").arg(datei),
                QStringLiteral("Fehler"), grund);
 }
 

@@ -6,6 +6,8 @@
 #include "core/state/Oberflaeche.h"
 #include "persist/Dateimeldungen.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 #include <cmath>
 
@@ -23,7 +25,7 @@ DatenbankLesung LeseDatenbank(const QByteArray& bytes, Datenbank& ziel) {
     // fourth line says 20 in every version and is not looked at.
     const int felder = basic::Val(in.ReadLine()) >= 8.0 ? DatensatzFelder : DatensatzFelderAlt;
     in.ReadLine();
-    const int anzahl = in.LeseAnzahl(felder);
+    const int anzahl = in.LeseAnzahl(felder, DatensatzHoechstzahl);
 
     Datenbank neu;
     neu.FelderJeDatensatz = felder;
@@ -32,6 +34,7 @@ DatenbankLesung LeseDatenbank(const QByteArray& bytes, Datenbank& ziel) {
     for (int r = 1; r <= anzahl; ++r)
         for (int f = 1; f <= felder; ++f)
             neu.Datensaetze(f, r) = in.ReadLine();
+    neu.FremdkodierteZeile = in.FremdkodierteZeile();
     ziel = std::move(neu);
     return DatenbankLesung::Gelesen;
 }
@@ -54,8 +57,13 @@ QByteArray SchreibeDatenbank(const AppState& s) {
 
 bool LadeDatensaetze(AppState& s, Oberflaeche& ui) {
     const QString pfad = s.Programmpfad + QStringLiteral("daten.dat");
-    const auto bytes = LeseDatei(pfad);
-    if (!bytes) return false;
+    if (!QFileInfo::exists(pfad) && !QFileInfo(pfad).isSymLink()) return false;
+    QString grund;
+    const auto bytes = LeseDatei(pfad, GroessteDatei, &grund);
+    if (!bytes) {
+        MeldeFalschesFormat(ui, pfad, {0, grund});
+        return false;
+    }
     Datenbank db;
     try {
         if (LeseDatenbank(*bytes, db) == DatenbankLesung::FremderKopf) {
@@ -68,6 +76,14 @@ bool LadeDatensaetze(AppState& s, Oberflaeche& ui) {
         MeldeFalschesFormat(ui, pfad, {f.zeile, f.grund});
         return false;
     }
+    if (db.FremdkodierteZeile > 0)
+        ui.Meldung(
+            QStringLiteral("Die Adressdatei enthält Zeichen in fremder Kodierung."),
+            QStringLiteral("Warnung!"),
+            QStringLiteral("%1, Zeile %2: die Zeile ist kein gültiges UTF-8 und wurde als Windows-1252 "
+                           "gelesen. Bitte prüfen Sie die Adresse.")
+                .arg(pfad)
+                .arg(db.FremdkodierteZeile));
     // An empty database still offers one blank record to type into.
     if (db.DatensatzAnzahl < 1) {
         db.DatensatzAnzahl = 1;

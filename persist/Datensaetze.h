@@ -16,12 +16,16 @@ class Oberflaeche;
 constexpr int DatensatzFelder = 30;
 // Fields the panel, the search and the imports work with; files before version 8 held only these.
 constexpr int DatensatzFelderAlt = 20;
+// The most records a file or an import may bring: far more than any address list, and a bound on
+// the memory a table of 30 fields a record takes.
+constexpr int DatensatzHoechstzahl = 100'000;
 
 // The records of one database file, read before anything of the running program is replaced.
 struct Datenbank {
     Tabelle<QString> Datensaetze; // (field, record), 30 fields
     int DatensatzAnzahl = 0;
     int FelderJeDatensatz = DatensatzFelder; // as the file held them: 30, or 20 before version 8
+    int FremdkodierteZeile = 0;              // a line of a UTF-8 file that was not UTF-8, or 0
 };
 
 enum class DatenbankLesung { Gelesen, FremderKopf };
@@ -34,7 +38,8 @@ DatenbankLesung LeseDatenbank(const QByteArray& bytes, Datenbank& ziel);
 
 // `LadeDatensaetze`: reads `Programmpfad` + "daten.dat" into the state. A missing file is no
 // error; a foreign one is named in the status bar; a damaged one gets the format warning. In
-// either case the records stay as they were. Returns true when records were taken over.
+// either case the records stay as they were, and the exit keeps the file aside. Returns true when
+// records were taken over.
 bool LadeDatensaetze(AppState& s, Oberflaeche& ui);
 // `SpeichereDatensaetze`: writes `Programmpfad` + "daten.dat" atomically; false with a message
 // when the file can't be written.

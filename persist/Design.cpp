@@ -5,6 +5,7 @@
 #include "core/state/AppState.h"
 #include "core/state/Oberflaeche.h"
 #include "core/state/Objekte.h"
+#include "core/state/Verlauf.h"
 #include "persist/Rahmensatz.h"
 
 #include <cmath>
@@ -453,6 +454,16 @@ QByteArray SchreibeDesign(const AppState& s) {
     return w.Bytes();
 }
 
+bool DesignLesbar(const AppState& s, const QByteArray& bytes) {
+    AppState probe = s; // the parse looks at the edition and the font list, and may note fonts
+    try {
+        (void)ParseDesign(probe, bytes);
+        return true;
+    } catch (const FormatFehler&) {
+        return false;
+    }
+}
+
 bool LadeDesignAusBytes(AppState& s, Oberflaeche& ui, const QByteArray& bytes) {
     Designinhalt d;
     try {
@@ -530,15 +541,19 @@ bool LoadDesign(AppState& s, Oberflaeche& ui) {
         s.AktuelleDatei = s.Programmpfad + QStringLiteral("neu.lay");
     else if (!s.Ladevorgabe.isEmpty())
         s.AktuelleDatei = s.Ladevorgabe;
-    const auto bytes = LeseDatei(s.AktuelleDatei);
+    QString grund;
+    const auto bytes = LeseDatei(s.AktuelleDatei, GroessteDatei, &grund);
     if (!bytes) {
         ui.Meldung(QStringLiteral("Die Datei %1 kann nicht geöffnet werden.").arg(s.AktuelleDatei),
-                   QStringLiteral("Warnung!"));
+                   QStringLiteral("Warnung!"), grund);
         s.AktuelleDatei = vorher;
         s.Ladevorgabe.clear();
         return false;
     }
-    if (LadeDesignAusBytes(s, ui, *bytes)) return true;
+    if (LadeDesignAusBytes(s, ui, *bytes)) {
+        VerlaufLeeren(s); // another document: the edits of the last one can't be undone on it
+        return true;
+    }
     s.AktuelleDatei = vorher;
     return false;
 }

@@ -22,6 +22,9 @@ class Oberflaeche;
 // `Ladevorgabe` ("neu" for the new document, a template's path, or empty) and clears it.
 bool LadeDesignAusBytes(AppState& s, Oberflaeche& ui, const QByteArray& bytes);
 
+// Whether `bytes` parse whole as a design in the edition of `s`; nothing of `s` changes.
+[[nodiscard]] bool DesignLesbar(const AppState& s, const QByteArray& bytes);
+
 // `LoadDesign`: chooses the source from `Ladevorgabe` and `AktuelleDatei` and loads it.
 bool LoadDesign(AppState& s, Oberflaeche& ui);
 // `SaveDesign`: writes the document to `AktuelleDatei`, replacing the file atomically.

@@ -7,6 +7,7 @@
 
 #include <QFileInfo>
 #include <QPrinterInfo>
+#include <QSet>
 
 #include <cmath>
 #include <limits>
@@ -231,12 +232,19 @@ IniErgebnis ParseIniLine(const QString& zeile) {
 }
 
 bool LeseEinstellungen(AppState& s, const QByteArray& bytes, Lesefehler* fehler) {
-    const QStringList zeilen = ZeilenAusBytes(bytes);
+    ZeilenLeser zeilen(bytes);
     // Values go into a copy, so that a file that fails half-way changes nothing.
     AppState neu = s;
-    for (qsizetype z = 0; z < zeilen.size(); ++z) {
-        const IniErgebnis e = ParseIniLine(zeilen[z]);
-        if (!e.gueltig) continue; // an empty or foreign line
+    while (!zeilen.AtEndOfStream()) {
+        const QString zeile = zeilen.ReadLine();
+        const int z = zeilen.Zeilennummer();
+        const IniErgebnis e = ParseIniLine(zeile);
+        if (!e.gueltig) {
+            if (zeile.trimmed().isEmpty()) continue;
+            // The file is machine-written: text without "=" means it is not a settings file.
+            if (fehler) *fehler = {z, QStringLiteral("Die Zeile hat nicht die Form „Name = Wert“.")};
+            return false;
+        }
         const QString& key = e.zeile.IniSchluessel;
         const QString& wert = e.zeile.IniWert;
         try {
@@ -254,7 +262,7 @@ bool LeseEinstellungen(AppState& s, const QByteArray& bytes, Lesefehler* fehler)
             else if (!gefunden && NamenSchluessel(key, QStringLiteral("wochentag"), 8, nr))
                 neu.Wochentagsnamen(nr) = wert;
         } catch (const Wertfehler& f) {
-            if (fehler) *fehler = {static_cast<int>(z + 1), f.grund};
+            if (fehler) *fehler = {z, f.grund};
             return false;
         }
     }
@@ -277,12 +285,48 @@ QByteArray SchreibeEinstellungen(const AppState& s) {
     return BytesAusZeilen(zeilen);
 }
 
+QStringList FehlendeEinstellungen(const QByteArray& bytes) {
+    QSet<QString> gesehen;
+    ZeilenLeser zeilen(bytes);
+    while (!zeilen.AtEndOfStream()) {
+        const IniErgebnis e = ParseIniLine(zeilen.ReadLine());
+        if (e.gueltig) gesehen << e.zeile.IniSchluessel;
+    }
+    // A key counts under the name it is looked for and under the one it is written with, as
+    // "Startdatei" is looked for as "start_datei".
+    QStringList fehlend;
+    for (const Schluessel& k : Schluesseltabelle()) {
+        const QString geschrieben = k.geschrieben.section(u'=', 0, 0).trimmed().toLower();
+        if (!gesehen.contains(k.gesucht) && !gesehen.contains(geschrieben))
+            fehlend << k.geschrieben.section(u'=', 0, 0).trimmed();
+    }
+    for (int i = 1; i <= 12; ++i)
+        if (!gesehen.contains(QStringLiteral("monat%1").arg(i))) fehlend << QStringLiteral("Monat%1").arg(i);
+    for (int i = 1; i <= 8; ++i)
+        if (!gesehen.contains(QStringLiteral("wochentag%1").arg(i)))
+            fehlend << QStringLiteral("Wochentag%1").arg(i);
+    return fehlend;
+}
+
 bool LoadSettings(AppState& s, Oberflaeche& ui) {
     const QString pfad = s.Programmpfad + QStringLiteral("zp.ini");
-    const auto bytes = LeseDatei(pfad);
-    if (!bytes) return !QFileInfo::exists(pfad); // missing: the defaults stand
-    Lesefehler fehler;
-    if (LeseEinstellungen(s, *bytes, &fehler)) return true;
+    if (!QFileInfo::exists(pfad) && !QFileInfo(pfad).isSymLink()) return true; // missing: the defaults stand
+    QString grund;
+    const auto bytes = LeseDatei(pfad, GroessteKleineDatei, &grund);
+    Lesefehler fehler{0, grund};
+    if (bytes && LeseEinstellungen(s, *bytes, &fehler)) {
+        const QStringList fehlend = FehlendeEinstellungen(*bytes);
+        if (fehlend.isEmpty()) return true;
+        // A file cut short: what it holds counts, the rest stays at the defaults, and the exit
+        // keeps the file aside rather than write those defaults over it.
+        fehler = {0,
+                  QStringLiteral("Die Einstellungsdatei ist unvollständig: es fehlen %1 von %2 Einstellungen "
+                                 "(%3). Für sie gelten die Vorgaben.")
+                      .arg(fehlend.size())
+                      .arg(Schluesseltabelle().size() + 20)
+                      .arg(fehlend.mid(0, 3).join(QStringLiteral(", ")) +
+                           (fehlend.size() > 3 ? QStringLiteral(", …") : QString()))};
+    }
     MeldeFalschesFormat(ui, pfad, fehler);
     return false;
 }

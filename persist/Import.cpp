@@ -3,20 +3,34 @@
 #include "core/runtime/TextDatei.h"
 #include "persist/Datensaetze.h"
 
+#include <QLocale>
+
+#include <algorithm>
+
 namespace zp {
 
 ImportDaten LeseTextImport(const QByteArray& bytes) {
-    const QStringList zeilen = ZeilenAusBytes(bytes);
-    qsizetype anzahl = 0;
-    while (anzahl < zeilen.size() && !zeilen[anzahl].isEmpty())
-        ++anzahl;
+    // First the count: the records run up to the first empty line. The table is sized once, and
+    // never beyond what the program can hold.
+    int anzahl = 0;
+    {
+        ZeilenLeser zaehler(bytes);
+        while (!zaehler.AtEndOfStream() && !zaehler.ReadLine().isEmpty())
+            if (++anzahl > DatensatzHoechstzahl)
+                zaehler.Fehler(
+                    QStringLiteral("Die Datei hat mehr als %1 Adressen; so viele kann das Programm "
+                                   "nicht verwalten.")
+                        .arg(QLocale(QLocale::German).toString(DatensatzHoechstzahl)));
+    }
 
     ImportDaten d;
-    d.DatensatzAnzahl = static_cast<int>(anzahl);
+    d.DatensatzAnzahl = anzahl;
     d.Datensaetze.Redim(DatensatzFelder, d.DatensatzAnzahl);
+    ZeilenLeser zeilen(bytes);
     QChar trenner = u';';
     for (int r = 1; r <= d.DatensatzAnzahl; ++r) {
-        QStringView rest = zeilen[r - 1];
+        const QString zeile = zeilen.ReadLine();
+        QStringView rest = zeile;
         if (rest.contains(u'\t'))
             trenner = u'\t';
         else if (rest.contains(u';'))
@@ -46,7 +60,8 @@ ImportDaten LeseEtiImport(const QByteArray& bytes) {
         in.ReadLine();
 
     // Whole records only: the table never grows beyond what the rest of the file can hold.
-    const int platz = static_cast<int>(in.Restzeilen() / DatensatzFelderAlt) + 1;
+    const int platz =
+        static_cast<int>(std::min<qsizetype>(in.Restzeilen() / DatensatzFelderAlt, DatensatzHoechstzahl)) + 1;
     d.Datensaetze.Redim(DatensatzFelder, platz);
     int r = 1;
     while (!in.AtEndOfStream()) {
@@ -56,6 +71,8 @@ ImportDaten LeseEtiImport(const QByteArray& bytes) {
             if (!d.Datensaetze(f, r).isEmpty()) leer = false;
         }
         if (leer) break;
+        if (r == platz)
+            in.Fehler(QStringLiteral("Die Datei hat mehr Adressen, als das Programm verwalten kann."));
         ++r;
     }
     d.DatensatzAnzahl = r;

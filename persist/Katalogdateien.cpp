@@ -6,6 +6,8 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace zp {
 
 namespace {
@@ -16,9 +18,10 @@ const QString KalenderIni = QStringLiteral("kalender.ini");
 // Reads `<Programmpfad><name>` with `leser`; a missing file is no fault.
 template <typename Leser> bool LadeOptional(AppState& s, Oberflaeche& ui, const QString& name, Leser leser) {
     const QString pfad = s.Programmpfad + name;
-    if (!QFileInfo::exists(pfad)) return true;
-    const auto bytes = LeseDatei(pfad);
-    Lesefehler fehler{0, QStringLiteral("Die Datei kann nicht gelesen werden.")};
+    if (!QFileInfo::exists(pfad) && !QFileInfo(pfad).isSymLink()) return true;
+    QString grund;
+    const auto bytes = LeseDatei(pfad, GroessteKleineDatei, &grund);
+    Lesefehler fehler{0, grund};
     if (bytes && leser(s, *bytes, &fehler)) return true;
     MeldeFalschesFormat(ui, pfad, fehler);
     return false;
@@ -67,8 +70,23 @@ bool LeseKartenformate(AppState& s, const QByteArray& bytes, Lesefehler* fehler)
     }
 }
 
-QByteArray SchreibeKartenformate(const AppState&) {
-    return BytesAusZeilen({QStringLiteral("ende")});
+QByteArray SchreibeKartenformate(const AppState& s) {
+    // Every row as it was read or added, the user's own too, then the end mark.
+    ZeilenSchreiber w;
+    const int anzahl = std::min(static_cast<int>(s.KartenformatAnzahl), KartenformateMax);
+    for (int zeile = 1; zeile <= anzahl; ++zeile) {
+        w.WriteLine(
+            EinzeiligesFeld(s.KartenformatNamen.Gueltig(zeile) ? s.KartenformatNamen(zeile) : QString()));
+        for (int spalte = 1; spalte <= 10; ++spalte) {
+            const QString wert = s.KartenformatWerte.Gueltig(spalte, zeile)
+                                     ? s.KartenformatWerte(spalte, zeile).trimmed()
+                                     : QString();
+            // The reader takes numbers only: a column left empty goes back as 0.
+            w.WriteLine(basic::ParseDouble(wert) ? wert : QStringLiteral("0"));
+        }
+    }
+    w.WriteLine(QStringLiteral("ende"));
+    return w.Bytes();
 }
 
 bool LeseKalenderIni(AppState& s, const QByteArray& bytes, Lesefehler* fehler) {

@@ -137,9 +137,11 @@ LayoutLesung WendeLayoutAn(AppState& s, const QByteArray& bytes, const QString& 
 bool LadeLayout(AppState& s, Oberflaeche& ui) {
     const QString pfad = s.Ladevorgabe;
     s.Ladevorgabe.clear();
-    const auto bytes = LeseDatei(pfad);
+    QString grund;
+    const auto bytes = LeseDatei(pfad, GroessteDatei, &grund);
     if (!bytes) {
-        ui.Meldung(QStringLiteral("Das Layout wurde nicht gefunden."), QStringLiteral("Warnung!"), pfad);
+        ui.Meldung(QStringLiteral("Das Layout kann nicht gelesen werden."), QStringLiteral("Warnung!"),
+                   pfad + QStringLiteral(": ") + grund);
         return false;
     }
     try {

@@ -26,9 +26,11 @@ bool NurPunktweise(const ClassBild& bild) {
            bild.EffektTrapez == 0;
 }
 
+} // namespace
+
 // The picture pipeline in its fixed order, after the load. Brightness, contrast and saturation
 // run as one pass.
-void Korrigieren(const ClassBild& bild, Lead& lead) {
+void BildKorrekturen(const ClassBild& bild, Lead& lead) {
     if (bild.Rotate > 0) lead.Rotate(bild.Rotate, true, Weiss);
     lead.Farbkorrektur(FarbwerteVon(bild));
     lead.Hue(bild.Farbverschiebung);
@@ -41,6 +43,8 @@ void Korrigieren(const ClassBild& bild, Lead& lead) {
     if (bild.Gray != 0) lead.Grayscale();
 }
 
+namespace {
+
 // A reduced copy for the screen, from the cache or the file; false when the full picture is needed.
 bool VerkleinertLaden(Bildwerk& werk, const ClassBild& bild, BildSchluessel schluessel, QSize bildschirm,
                       Lead& lead) {
@@ -51,7 +55,7 @@ bool VerkleinertLaden(Bildwerk& werk, const ClassBild& bild, BildSchluessel schl
         return true;
     }
     if (!lead.LadeVerkleinert(bild.File, bildschirm)) return false;
-    Korrigieren(bild, lead);
+    BildKorrekturen(bild, lead);
     werk.Cache.Ablegen(schluessel, lead.Bitmap(), lead.Vollgroesse());
     return true;
 }
@@ -87,7 +91,7 @@ void BildLaden(AppState& s, ClassBild& bild, Lead& lead, QSize bildschirm) {
             VerkleinertLaden(werk, bild, *schluessel, bildschirm, lead))
             return;
         lead.Load(bild.File);
-        Korrigieren(bild, lead);
+        BildKorrekturen(bild, lead);
         if (schluessel) werk.Cache.Ablegen(*schluessel, lead.Bitmap());
     } catch (const LeadFehler& e) {
         if (schluessel) werk.Cache.MerkeFehler(*schluessel);

@@ -24,4 +24,8 @@ void BildLaden(AppState& s, ClassBild& bild, Lead& lead, QSize bildschirm = {});
 [[nodiscard]] QSize BildschirmGroesse(const AppState& s, const Canvas& ziel, double breiteTwips,
                                       double hoeheTwips);
 
+// The corrections and effects of the pipeline, in their fixed order, on the bitmap the control
+// holds: what BildLaden does after loading the file.
+void BildKorrekturen(const ClassBild& bild, Lead& lead);
+
 } // namespace zp

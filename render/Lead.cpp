@@ -120,9 +120,11 @@ bool Lead::HatBild() const {
 }
 
 void Lead::Load(const QString& datei) {
-    const std::optional<QByteArray> gelesen = LeseDatei(datei);
+    QString grund;
+    const std::optional<QByteArray> gelesen = LeseDatei(datei, GroessteBilddatei, &grund);
     if (!gelesen)
-        throw LeadFehler(QStringLiteral("Die Bilddatei \"%1\" kann nicht gelesen werden.").arg(datei));
+        throw LeadFehler(
+            QStringLiteral("Die Bilddatei \"%1\" kann nicht gelesen werden. %2").arg(datei, grund));
     const QByteArray& bytes = *gelesen;
     if (bytes.isEmpty()) throw LeadFehler(QStringLiteral("Die Bilddatei \"%1\" ist leer.").arg(datei));
 

@@ -3,7 +3,7 @@
 set -euo pipefail
 PAKETE=(cmake ninja-build g++ pkg-config libgtest-dev libbenchmark-dev qt6-base-dev
         qt6-translations-l10n libmagick++-dev fonts-liberation2 fonts-dejavu-core xvfb xauth
-        poppler-utils clang libclang-rt-14-dev)
+        poppler-utils clang libclang-rt-14-dev strace cups cups-client printer-driver-cups-pdf)
 fehlend=()
 for p in "${PAKETE[@]}"; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || fehlend+=("$p")

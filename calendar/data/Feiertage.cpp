@@ -1,5 +1,6 @@
 #include "calendar/data/Feiertage.h"
 
+#include "calendar/data/Landesfeiertage.h"
 #include "calendar/data/Tagesdaten.h"
 #include "core/runtime/Basic.h"
 #include "core/state/AppState.h"
@@ -85,6 +86,8 @@ void BerechneFeiertage(AppState& s) {
         sonntag = sonntag.addDays(7);
         Schreibe(s, 21, sonntag, advent);
     }
+    // Switches 26 to 30 come last, so that with them off the table is what it always was.
+    SchreibeZusatzfeiertage(s, jahr);
 }
 
 void CommandBerechnen(AppState& s) {

@@ -19,9 +19,11 @@ void MeldeFormat(Oberflaeche& ui, const QString& pfad, const FormatFehler& f) {
 }
 
 bool Lesbar(Oberflaeche& ui, const QString& pfad, QByteArray& bytes) {
-    const auto gelesen = LeseDatei(pfad);
+    QString grund;
+    const auto gelesen = LeseDatei(pfad, GroessteDatei, &grund);
     if (!gelesen) {
-        ui.Meldung(QStringLiteral("Die Datei kann nicht gelesen werden."), QStringLiteral("Warnung!"), pfad);
+        ui.Meldung(QStringLiteral("Die Datei kann nicht gelesen werden."), QStringLiteral("Warnung!"),
+                   pfad + QStringLiteral(": ") + grund);
         return false;
     }
     bytes = *gelesen;

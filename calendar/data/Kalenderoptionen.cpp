@@ -61,23 +61,33 @@ void StandardnamenSetzen(AppState& s) {
 
 Optionenwahl OptionenAusZustand(const AppState& s) {
     Optionenwahl w;
-    for (int i = 0; i < 25; ++i)
+    for (int i = 0; i < static_cast<int>(w.haken.size()); ++i)
         w.haken[static_cast<size_t>(i)] = s.FeiertagWahl.Gueltig(i + 1) && s.FeiertagWahl(i + 1) == 1;
     w.samstag = s.FarbeSamstag;
     w.sonntag = s.FarbeSonntag;
     w.feiertag = s.FarbeFeiertag;
     w.termin = s.FarbeTermin;
+    w.isoWochen = s.WochennummernIso;
+    w.bundesland = s.Bundesland;
     return w;
 }
 
 void OptionenUebernehmen(AppState& s, const Optionenwahl& w) {
-    for (int i = 0; i < 25; ++i)
-        s.FeiertagWahl(i + 1) = w.haken[static_cast<size_t>(i)] ? 1 : 0;
+    for (int i = 0; i < static_cast<int>(w.haken.size()); ++i)
+        if (s.FeiertagWahl.Gueltig(i + 1)) s.FeiertagWahl(i + 1) = w.haken[static_cast<size_t>(i)] ? 1 : 0;
     s.FarbeSamstag = w.samstag;
     s.FarbeSonntag = w.sonntag;
     s.FarbeTermin = w.termin;
     s.FarbeFeiertag = w.feiertag;
     s.Wochentagsnamen(8) = s.Wochentagsnamen(1);
+    s.WochennummernIso = w.isoWochen;
+    s.Bundesland = w.bundesland;
+}
+
+bool BundeslandGewaehlt(Optionenwahl& wahl, const QString& land) {
+    if (!BundeslandVorwahl(land, wahl.haken)) return false;
+    wahl.bundesland = land;
+    return true;
 }
 
 void MonatsnameGeaendert(AppState& s, int listenindex, const QString& text) {

@@ -3,6 +3,7 @@
 // colours and the month and weekday names that stand on the page. The dialog edits a copy of the
 // switches and colours and hands it back on "Ok"; the names change at once as they are typed.
 
+#include "calendar/data/Landesfeiertage.h"
 #include "model/Klassen.h"
 
 #include <QString>
@@ -22,14 +23,20 @@ struct AppState;
 void StandardnamenSetzen(AppState& s);
 
 struct Optionenwahl {
-    std::array<bool, 25> haken{}; // Check1(0..24)
+    Feiertagshaken haken{}; // Check1(0..29): the 25 classic switches, then 26 to 30
     Farbe samstag = 0, sonntag = 0, feiertag = 0, termin = 0;
+    bool isoWochen = false; // week numbers after DIN/ISO 8601
+    QString bundesland;     // the entry of the list "Bundesland" last chosen, or ""
 };
 // What the dialog shows on opening.
 [[nodiscard]] Optionenwahl OptionenAusZustand(const AppState& s);
-// "Ok": switches and colours taken over, Sunday's second slot follows the first. Nothing is
-// recalculated or redrawn here.
+// "Ok": switches, colours and the week count taken over, Sunday's second slot follows the first.
+// Nothing is recalculated or redrawn here.
 void OptionenUebernehmen(AppState& s, const Optionenwahl& wahl);
+
+// The list "Bundesland": the state's public holidays ticked on the copy; the user may still change
+// single boxes before "Ok". False for a name not in the list.
+bool BundeslandGewaehlt(Optionenwahl& wahl, const QString& land);
 
 // TextMonat and TextWochentag changed, for the list entry `listenindex` (0-based).
 void MonatsnameGeaendert(AppState& s, int listenindex, const QString& text);

@@ -226,6 +226,11 @@ void KalenderRahmenLauf(AppState& s, KalenderZeichner& zeichner, int n) {
     }
 
     const bool kalender = s.IstKalender != 0;
+    // Editing the template: the frame stands at its own place, where the mouse picks it up.
+    if (kalender && s.KalenderBearbeiten != 0) {
+        A.X = T.X;
+        A.Y = T.Y;
+    }
     // Every walk turns or stops within 12 months of 31 days; the bound only guards odd states.
     for (int schritt = 0; schritt < 400; ++schritt) {
         ++d;

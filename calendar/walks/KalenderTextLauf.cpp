@@ -3,6 +3,7 @@
 #include "calendar/walks/KalenderLauf.h"
 
 #include "calendar/data/Tagesdaten.h"
+#include "calendar/data/Wochennummer.h"
 #include "calendar/walks/Laufhilfen.h"
 
 namespace zp {
@@ -289,7 +290,13 @@ bool Zelltext(AppState& s, const ClassSchrift& schrift, int typ, int k, int d, i
         break;
     }
     case 6:
-        if (wt == kMontag && d <= letzter) {
+        if (s.WochennummernIso) {
+            // The week of the Monday, or of New Year's Day where the first row starts before.
+            const bool neujahr = d == 1 && m == 1 && typ != Monat1;
+            if ((wt == kMontag || neujahr) && d <= letzter)
+                text = QString::number(IsoWoche(static_cast<int>(s.Kalenderjahr), m, d));
+            if (typ == Woche && t > 1) text.clear();
+        } else if (wt == kMontag && d <= letzter) {
             if (typ != Woche) wochenzaehler += 1;
             if (wochenzaehler > 52) wochenzaehler = 1; // no week 53: it counts as week 1
             text = QString::number(static_cast<int>(wochenzaehler));
@@ -363,6 +370,11 @@ void KalenderTextLauf(AppState& s, KalenderZeichner& zeichner, int n) {
         default:
             break;
         }
+    }
+    // Editing the template: the frame stands at its own place, where the mouse picks it up.
+    if (s.IstKalender != 0 && s.KalenderBearbeiten != 0) {
+        A.X = T.X;
+        A.Y = T.Y;
     }
 
     ClassSchrift& schrift = s.Schriftliste(k);

@@ -4,49 +4,109 @@
 #include "core/runtime/Cp1252Codec.h"
 
 #include <QFile>
-#include <QSaveFile>
-#include <QStringDecoder>
+#include <QFileInfo>
+#include <QLocale>
 
+#include <algorithm>
 #include <cmath>
 
 namespace zp {
 
 namespace {
-bool hasMultibyteUtf8(const QByteArray& bytes) {
-    for (const char c : bytes)
-        if (static_cast<unsigned char>(c) >= 0x80) return true;
-    return false;
+
+enum class Kodierung { Ascii, Utf8, Fremd };
+
+// What the bytes of one line are: plain ASCII, valid UTF-8 with a multi-byte character, or neither.
+Kodierung PruefeUtf8(const char* p, qsizetype n) {
+    bool mehrbyte = false;
+    for (qsizetype i = 0; i < n;) {
+        const auto c = static_cast<unsigned char>(p[i]);
+        if (c < 0x80) {
+            ++i;
+            continue;
+        }
+        int folge = 0;
+        uint32_t wert = 0;
+        if (c >= 0xC2 && c <= 0xDF) {
+            folge = 1;
+            wert = c & 0x1F;
+        } else if (c >= 0xE0 && c <= 0xEF) {
+            folge = 2;
+            wert = c & 0x0F;
+        } else if (c >= 0xF0 && c <= 0xF4) {
+            folge = 3;
+            wert = c & 0x07;
+        } else {
+            return Kodierung::Fremd;
+        }
+        if (i + folge >= n) return Kodierung::Fremd;
+        for (int k = 1; k <= folge; ++k) {
+            const auto f = static_cast<unsigned char>(p[i + k]);
+            if ((f & 0xC0) != 0x80) return Kodierung::Fremd;
+            wert = (wert << 6) | (f & 0x3F);
+        }
+        // Overlong forms, surrogates and values past U+10FFFF are not UTF-8.
+        if ((folge == 2 && wert < 0x800) || (folge == 3 && (wert < 0x10000 || wert > 0x10FFFF)) ||
+            (wert >= 0xD800 && wert <= 0xDFFF))
+            return Kodierung::Fremd;
+        mehrbyte = true;
+        i += folge + 1;
+    }
+    return mehrbyte ? Kodierung::Utf8 : Kodierung::Ascii;
 }
 
-QString decodeBytes(const QByteArray& bytes) {
-    if (bytes.startsWith("\xEF\xBB\xBF")) return QString::fromUtf8(bytes.constData() + 3, bytes.size() - 3);
-    if (hasMultibyteUtf8(bytes)) {
-        QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-        QString text = utf8.decode(bytes);
-        if (!utf8.hasError()) return text;
-    }
-    return Cp1252Codec::decode(bytes);
+// The end of the line that starts at `pos`, and where the next one starts.
+qsizetype Zeilenende(const QByteArray& bytes, qsizetype pos, qsizetype& naechste) {
+    const char* p = bytes.constData();
+    const qsizetype n = bytes.size();
+    qsizetype e = pos;
+    while (e < n && p[e] != '\r' && p[e] != '\n')
+        ++e;
+    naechste = e;
+    if (e < n) naechste = (p[e] == '\r' && e + 1 < n && p[e + 1] == '\n') ? e + 2 : e + 1;
+    return e;
 }
+
 } // namespace
 
-QStringList ZeilenAusBytes(const QByteArray& bytes) {
-    const QString text = decodeBytes(bytes);
-    QStringList lines;
-    QString current;
-    bool open = false; // a line has begun that no line end has closed yet
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const QChar c = text[i];
-        if (c == u'\r' || c == u'\n') {
-            lines << current;
-            current.clear();
-            open = false;
-            if (c == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n') ++i;
-        } else {
-            current += c;
-            open = true;
-        }
+ZeilenLeser::ZeilenLeser(const QByteArray& bytes) : m_bytes(bytes) {
+    if (m_bytes.startsWith("\xEF\xBB\xBF")) {
+        m_pos = 3;
+        m_utf8 = true;
     }
-    if (open) lines << current;
+    // One pass over the lines: how many there are, and which encoding holds them. Nothing is
+    // copied; a line is decoded only when it is read.
+    int erstFremd = 0;
+    bool utf8Gesehen = false;
+    for (qsizetype pos = m_pos, naechste = 0; pos < m_bytes.size(); pos = naechste) {
+        const qsizetype ende = Zeilenende(m_bytes, pos, naechste);
+        ++m_zeilenGesamt;
+        const Kodierung k = PruefeUtf8(m_bytes.constData() + pos, ende - pos);
+        if (k == Kodierung::Utf8) utf8Gesehen = true;
+        if (k == Kodierung::Fremd && erstFremd == 0) erstFremd = static_cast<int>(m_zeilenGesamt);
+    }
+    if (utf8Gesehen) m_utf8 = true;
+    if (m_utf8) m_fremdeZeile = erstFremd;
+}
+
+QString ZeilenLeser::ReadLine() {
+    if (AtEndOfStream()) throw FormatFehler(Zeilennummer() + 1, QStringLiteral("Die Datei endet zu früh."));
+    qsizetype naechste = 0;
+    const qsizetype ende = Zeilenende(m_bytes, m_pos, naechste);
+    const QByteArray zeile = QByteArray::fromRawData(m_bytes.constData() + m_pos, ende - m_pos);
+    m_pos = naechste;
+    ++m_zeile;
+    // In a UTF-8 file a line that isn't valid UTF-8 is read as Windows-1252, so nothing is lost.
+    if (m_utf8 && PruefeUtf8(zeile.constData(), zeile.size()) != Kodierung::Fremd)
+        return QString::fromUtf8(zeile);
+    return Cp1252Codec::decode(zeile);
+}
+
+QStringList ZeilenAusBytes(const QByteArray& bytes) {
+    ZeilenLeser leser(bytes);
+    QStringList lines;
+    while (!leser.AtEndOfStream())
+        lines << leser.ReadLine();
     return lines;
 }
 
@@ -69,19 +129,37 @@ QByteArray BytesAusZeilen(const QStringList& lines) {
     return out;
 }
 
-std::optional<QByteArray> LeseDatei(const QString& path) {
+std::optional<QByteArray> LeseDatei(const QString& path, qint64 hoechstens, QString* grund) {
     QFile f(path);
-    if (!f.open(QIODevice::ReadOnly)) return std::nullopt;
-    return f.readAll();
-}
-
-bool SchreibeDateiAtomar(const QString& path, const QByteArray& bytes, QString* fehler) {
-    QSaveFile f(path);
-    if (!f.open(QIODevice::WriteOnly) || f.write(bytes) != bytes.size() || !f.commit()) {
-        if (fehler) *fehler = f.errorString();
-        return false;
+    const QFileInfo info(path);
+    const auto mb = [](qint64 n) { return QLocale(QLocale::German).toString(n / 1048576.0, 'f', 1); };
+    if (info.isDir()) {
+        if (grund) *grund = QStringLiteral("Unter diesem Namen steht ein Ordner, keine Datei.");
+        return std::nullopt;
     }
-    return true;
+    if (!f.open(QIODevice::ReadOnly)) {
+        if (grund)
+            *grund = info.exists()
+                         ? QStringLiteral("Die Datei kann nicht geöffnet werden: %1.").arg(f.errorString())
+                         : QStringLiteral("Die Datei existiert nicht.");
+        return std::nullopt;
+    }
+    // A file of the program's own kinds never comes near the limit; reading stops at it in case
+    // the file grows meanwhile or reports no size.
+    const qint64 groesse = f.size();
+    QByteArray bytes = groesse <= hoechstens ? f.read(hoechstens + 1) : QByteArray();
+    if (groesse > hoechstens || bytes.size() > hoechstens) {
+        if (grund)
+            *grund = QStringLiteral("Die Datei ist %1 MB groß; eine Datei dieser Art hat höchstens %2 MB. "
+                                    "Sie wurde nicht gelesen.")
+                         .arg(mb(std::max(groesse, static_cast<qint64>(bytes.size()))), mb(hoechstens));
+        return std::nullopt;
+    }
+    if (f.error() != QFileDevice::NoError) {
+        if (grund) *grund = QStringLiteral("Die Datei kann nicht gelesen werden: %1.").arg(f.errorString());
+        return std::nullopt;
+    }
+    return bytes;
 }
 
 FormatFehler::FormatFehler(int z, const QString& g)
@@ -89,11 +167,6 @@ FormatFehler::FormatFehler(int z, const QString& g)
 
 void ZeilenLeser::Fehler(const QString& grund) const {
     throw FormatFehler(Zeilennummer(), grund);
-}
-
-QString ZeilenLeser::ReadLine() {
-    if (AtEndOfStream()) throw FormatFehler(Zeilennummer() + 1, QStringLiteral("Die Datei endet zu früh."));
-    return m_lines[m_next++];
 }
 
 int16_t ZeilenLeser::LeseInt16() {
@@ -134,9 +207,13 @@ double ZeilenLeser::LeseVal() {
     return basic::Val(ReadLine());
 }
 
-int ZeilenLeser::LeseAnzahl(int zeilenJeEintrag) {
+int ZeilenLeser::LeseAnzahl(int zeilenJeEintrag, int hoechstens) {
     const double d = LeseDouble();
     if (d < 0 || d != std::floor(d)) Fehler(QStringLiteral("Die Anzahl %1 ist ungültig.").arg(d));
+    if (d > hoechstens)
+        Fehler(QStringLiteral("Die Anzahl %1 ist größer, als das Programm verwalten kann (höchstens %2).")
+                   .arg(d, 0, 'f', 0)
+                   .arg(hoechstens));
     if (zeilenJeEintrag > 0 && d * zeilenJeEintrag > static_cast<double>(Restzeilen()))
         Fehler(QStringLiteral("Die Anzahl %1 passt nicht zur Länge der Datei.").arg(d));
     return static_cast<int>(d);

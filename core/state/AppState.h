@@ -6,6 +6,7 @@
 
 #include "core/runtime/Liste.h"
 #include "core/state/Massstab.h"
+#include "core/state/Verlauf.h"
 #include "model/Klassen.h"
 #include "model/SeiteEtikett.h"
 
@@ -179,6 +180,10 @@ struct AppState {
     float KalenderBearbeiten = 0; // template frames drawn once at their places, not walked
     double NaechsteWocheTag = 0;  // where the day numbers of a week page ended
     double NaechsteWocheMonat = 1;
+    // Beyond zp.ini, kept in zusatz.ini: week numbers after DIN/ISO 8601 instead of the count of
+    // Mondays, and the state whose public holidays the options last preset.
+    bool WochennummernIso = false;
+    QString Bundesland;
 
     // ---- Dialog colours ----------------------------------------------------------------------
     Farbe Dialogfarbe1 = 0, Dialogfarbe2 = 0, Dialogfarbe3 = 0, Dialogfarbe4 = 0, Dialogfarbe5 = 0;
@@ -192,6 +197,19 @@ struct AppState {
     struct Markierung {
         double Left = 0, Top = 0, Width = 0, Height = 0;
     } Rahmen;
+
+    // ---- Mouse editing on the page, twips of the page picture -----------------------------
+    double Griff = 0;      // the handle under the pointer: 0 none, 10 inside, 1 to 8 the edges
+    float ZiehenAktiv = 0; // 1 while a move or resize drag runs
+    double BoxLinks = 0, BoxRechts = 0, BoxOben = 0, BoxUnten = 0; // the drag's outline
+    double ZiehenX = 0, ZiehenY = 0;                               // last pointer of the drag
+    double StartX = 0, StartY = 0; // where a new frame's box was first pressed
+    Markierung Startbox;           // the marker at that moment
+    double Seitenverhaeltnis = 1;  // marker width by height at the press, for proportional frames
+    double Hilfswert = 0;          // scratch number; 9999 lets the deletion skip its question
+
+    // ---- Undo and redo of the edits ----------------------------------------------------------
+    Bearbeitungsverlauf Verlauf;
 
     // ---- Work objects: never members of the lists ------------------------------------------
     ClassRahmen AktuellerRahmen;

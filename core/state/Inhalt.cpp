@@ -4,17 +4,30 @@
 #include "core/state/AppState.h"
 #include "core/state/Oberflaeche.h"
 #include "core/state/Objekte.h"
+#include "core/state/Textfelder.h"
+#include "core/state/Verlauf.h"
+
+#include <QDir>
+#include <QFileInfo>
 
 namespace zp {
 
 namespace {
 
-// The list of an object kind, with its count and current number, seen through one interface.
-template <typename T> void EntferneObjekt(Liste<T>& liste, double& anzahl, int position) {
+// Object `position` leaves its dense list: the objects above it move down by one place and the
+// last place is emptied. Frames of the kind that pointed above it follow their object down.
+template <typename T>
+void EntferneObjekt(AppState& s, Liste<T>& liste, double& anzahl, int position, const QString& typ) {
     const int letzte = static_cast<int>(anzahl);
-    for (int k = position; k < letzte; ++k)
-        liste(k) = liste(k + 1);
-    if (letzte >= 1 && letzte <= liste.Obergrenze()) liste(letzte) = T{};
+    if (position < 1 || position > letzte || letzte > liste.Obergrenze()) return; // points nowhere
+    for (int i = position; i < letzte; ++i) {
+        liste(i) = liste(i + 1);
+        for (int f = 1; f <= static_cast<int>(s.RahmenAnzahl); ++f) {
+            ClassRahmen& r = s.Rahmenliste(f);
+            if (r.Objekttyp == typ && r.Objektnummer == i + 1) r.Objektnummer = i;
+        }
+    }
+    liste(letzte) = T{};
     anzahl -= 1;
 }
 
@@ -22,38 +35,95 @@ bool IstKarte(const AppState& s) {
     return s.IstEtikett != 0 || s.IstVisitenkarte != 0;
 }
 
+bool RahmenGueltig(const AppState& s, int n) {
+    return n >= 1 && n <= static_cast<int>(s.RahmenAnzahl) && s.Rahmenliste.Gueltig(n);
+}
+
+// Frames of the layout stay: a text is emptied, a record picture loses the record's picture.
+Loeschergebnis LeereVorlagenrahmen(AppState& s, Oberflaeche& ui, const ClassRahmen& rahmen) {
+    if (s.IstKalender != 0) return Loeschergebnis::Unveraendert;
+    if (rahmen.Objekttyp != u"Schrift" && rahmen.bilddaten < 1) {
+        ui.Meldung(QStringLiteral("Sie können nur eingefügte Rahmen löschen"), QStringLiteral("Hinweis"));
+        return Loeschergebnis::Verweigert;
+    }
+    VerlaufMerken(s);
+    if (rahmen.Objekttyp == u"Schrift") {
+        const int t = static_cast<int>(rahmen.Objektnummer);
+        if (t >= 1 && s.Schriftliste.Gueltig(t)) s.Schriftliste(t).Textstring.clear();
+        const int box = static_cast<int>(s.SchriftNummer);
+        if (box >= 1 && s.Panel.Text1.Gueltig(box)) s.Panel.Text1(box).clear();
+        ApplyInlineText(s, QString()); // the box's change: an empty text hides its frame
+    } else {
+        const int satz = static_cast<int>(s.DatensatzNummer);
+        if (s.Datensaetze.Gueltig(21, satz)) s.Datensaetze(21, satz).clear();
+        s.Panel.TextBild.clear();
+    }
+    ui.PanelAktualisieren();
+    ui.DatensatzAnzeigen();
+    ui.Neuzeichnen();
+    return Loeschergebnis::Geleert;
+}
+
 } // namespace
 
+bool PlatzFuerEinfuegen(const AppState& s, const QString& typ) {
+    double anzahl = 0;
+    if (typ == u"Schrift")
+        anzahl = s.SchriftMax;
+    else if (typ == u"Bild")
+        anzahl = s.BildAnzahl;
+    else if (typ == u"Linie")
+        anzahl = s.LinieAnzahl;
+    else if (typ == u"RTF")
+        anzahl = s.RTFAnzahl;
+    else
+        return false;
+    return anzahl < GroessteAnzahl && s.RahmenAnzahl < GroessteAnzahl;
+}
+
+QString NeuerBriefname(const QString& ordner) {
+    const QDir d(ordner);
+    for (int n = 1; n <= 65535; ++n) {
+        const QString name = QStringLiteral("RTF") + QString::number(n) + QStringLiteral(".rtf");
+        if (!QFileInfo::exists(d.filePath(name))) return name;
+    }
+    return {};
+}
+
 int FuegeInhaltEin(AppState& s, const QString& typ) {
+    if (!PlatzFuerEinfuegen(s, typ)) return 0;
+    // The list grows by one place when its count has reached its bound.
+    const auto wachsen = [](auto& liste, double& anzahl) {
+        if (anzahl >= liste.Obergrenze()) liste.RedimPreserve(static_cast<int>(anzahl) + 1);
+        anzahl += 1;
+        return static_cast<int>(anzahl);
+    };
     int objekt = 0;
     if (typ == u"Schrift") {
-        if (s.SchriftMax == s.Schriftliste.Obergrenze())
-            s.Schriftliste.RedimPreserve(s.Schriftliste.Obergrenze() + 1);
-        s.SchriftMax += 1;
-        s.SchriftNummer = s.SchriftMax;
-        objekt = static_cast<int>(s.SchriftMax);
+        objekt = wachsen(s.Schriftliste, s.SchriftMax);
+        s.SchriftNummer = objekt;
+        ErzeugeSchrift(s, objekt);
     } else if (typ == u"Bild") {
-        if (s.BildAnzahl == s.Bildliste.Obergrenze()) s.Bildliste.RedimPreserve(s.Bildliste.Obergrenze() + 1);
-        s.BildAnzahl += 1;
-        s.BildNummer = s.BildAnzahl;
-        objekt = static_cast<int>(s.BildAnzahl);
+        objekt = wachsen(s.Bildliste, s.BildAnzahl);
+        s.BildNummer = objekt;
+        ErzeugeBild(s, objekt);
     } else if (typ == u"Linie") {
-        if (s.LinieAnzahl == s.Linienliste.Obergrenze())
-            s.Linienliste.RedimPreserve(s.Linienliste.Obergrenze() + 1);
-        s.LinieAnzahl += 1;
-        s.LinieNummer = s.LinieAnzahl;
-        objekt = static_cast<int>(s.LinieAnzahl);
+        objekt = wachsen(s.Linienliste, s.LinieAnzahl);
+        s.LinieNummer = objekt;
+        ErzeugeLinie(s, objekt);
     } else {
-        return 0;
+        const QString ordner =
+            s.AktuelleDatei.isEmpty() ? s.Programmpfad : QFileInfo(s.AktuelleDatei).absolutePath();
+        const QString name = NeuerBriefname(ordner);
+        if (name.isEmpty()) return 0;
+        objekt = wachsen(s.RTFliste, s.RTFAnzahl);
+        s.RTFNummer = objekt;
+        s.RTFliste(objekt) = name;
     }
     const int n = static_cast<int>(s.RahmenAnzahl) + 1;
     ErzeugeRahmen(s, n, typ, objekt);
-    s.RahmenNummer = s.RahmenAnzahl;
-    if (typ == u"Schrift") ErzeugeSchrift(s, objekt);
-    if (typ == u"Bild") ErzeugeBild(s, objekt);
-    if (typ == u"Linie") ErzeugeLinie(s, objekt);
+    s.RahmenNummer = n;
     ClassRahmen& r = s.Rahmenliste(n);
-    r.Objektnummer = objekt;
     if (typ == u"Bild") r.Proportional = basic::Wahr;
     // Invisible until the user has drawn it on the page.
     r.Sichtbar = basic::Falsch;
@@ -61,81 +131,86 @@ int FuegeInhaltEin(AppState& s, const QString& typ) {
     return n;
 }
 
+void ObjektNachRahmen(AppState& s) {
+    const int n = static_cast<int>(s.RahmenNummer);
+    if (!RahmenGueltig(s, n)) return;
+    const ClassRahmen& r = s.Rahmenliste(n);
+    if (r.Objekttyp == u"Schrift")
+        s.SchriftNummer = r.Objektnummer;
+    else if (r.Objekttyp == u"Bild")
+        s.BildNummer = r.Objektnummer;
+    else if (r.Objekttyp == u"Linie")
+        s.LinieNummer = r.Objektnummer;
+    else if (r.Objekttyp == u"RTF")
+        s.RTFNummer = r.Objektnummer;
+}
+
+void MarkerNachRahmen(AppState& s) {
+    const int n = static_cast<int>(s.RahmenNummer);
+    if (!RahmenGueltig(s, n)) return;
+    const ClassRahmen& r = s.Rahmenliste(n);
+    const double f = s.Zoomfaktor / 100 * s.Geraetefaktor;
+    s.Rahmen = {r.X * f, r.Y * f, r.Breite * f, r.Höhe * f};
+}
+
 Loeschergebnis LoescheRahmen(AppState& s, Oberflaeche& ui, bool schonGefragt) {
     const int nummer = static_cast<int>(s.RahmenNummer);
-    if (nummer < 1 || nummer > static_cast<int>(s.RahmenAnzahl)) return Loeschergebnis::Unveraendert;
-    ClassRahmen& rahmen = s.Rahmenliste(nummer);
+    if (!RahmenGueltig(s, nummer)) return Loeschergebnis::Unveraendert;
+    const ClassRahmen rahmen = s.Rahmenliste(nummer);
 
-    // Template frames and record pictures stay: they can only be emptied.
-    if (rahmen.bilddaten > 0 || nummer <= s.FesteRahmen) {
-        if (s.IstKalender != 0) return Loeschergebnis::Unveraendert;
-        Loeschergebnis ergebnis = Loeschergebnis::Geleert;
-        if (rahmen.Objekttyp == u"Schrift") {
-            const int t = static_cast<int>(rahmen.Objektnummer);
-            if (s.Schriftliste.Gueltig(t)) s.Schriftliste(t).Textstring.clear();
-            const int box = static_cast<int>(s.SchriftNummer);
-            if (box >= 1 && s.Panel.Text1.Gueltig(box)) s.Panel.Text1(box).clear();
-        } else if (rahmen.Objekttyp == u"Bild" && rahmen.bilddaten > 0) {
-            const int satz = static_cast<int>(s.DatensatzNummer);
-            if (s.Datensaetze.Gueltig(21, satz)) s.Datensaetze(21, satz).clear();
-        } else {
-            ui.Meldung(QStringLiteral("Sie können nur eingefügte Rahmen löschen"), QStringLiteral("Hinweis"));
-            ergebnis = Loeschergebnis::Verweigert;
-        }
-        ui.DatensatzAnzeigen();
-        ui.Neuzeichnen();
-        return ergebnis;
-    }
+    // Only frames the user inserted go; those of the layout and record pictures stay.
+    if (rahmen.bilddaten != 0 || nummer <= s.FesteRahmen) return LeereVorlagenrahmen(s, ui, rahmen);
 
     if (!schonGefragt &&
         !ui.Frage(QStringLiteral("Soll dieser Rahmen wirklich gelöscht werden?"), QStringLiteral("Rahmen")))
         return Loeschergebnis::Abgebrochen;
+    if (schonGefragt)
+        EinfuegenVerwerfen(s);
+    else
+        VerlaufMerken(s);
 
-    // The content object leaves its list; frames pointing above it follow it down.
-    const QString typ = rahmen.Objekttyp;
+    // The content object leaves its list.
+    const QString& typ = rahmen.Objekttyp;
     const int objekt = static_cast<int>(rahmen.Objektnummer);
-    double* anzahl = nullptr;
-    if (typ == u"Schrift") {
-        anzahl = &s.SchriftMax;
-        EntferneObjekt(s.Schriftliste, s.SchriftMax, objekt);
-        s.SchriftNummer = IstKarte(s) ? 21 : 1;
-    } else if (typ == u"Bild") {
-        anzahl = &s.BildAnzahl;
-        EntferneObjekt(s.Bildliste, s.BildAnzahl, objekt);
-        s.BildNummer = 1;
-    } else if (typ == u"Linie") {
-        anzahl = &s.LinieAnzahl;
-        EntferneObjekt(s.Linienliste, s.LinieAnzahl, objekt);
-        s.LinieNummer = 1;
-    } else if (typ == u"RTF") {
-        anzahl = &s.RTFAnzahl;
-        EntferneObjekt(s.RTFliste, s.RTFAnzahl, objekt);
-        s.RTFNummer = 1;
-    }
-    if (anzahl) {
-        const int alteAnzahl = static_cast<int>(*anzahl) + 1;
-        for (int k = objekt + 1; k <= alteAnzahl; ++k)
-            for (int f = 1; f <= static_cast<int>(s.RahmenAnzahl); ++f)
-                if (f != nummer && s.Rahmenliste(f).Objekttyp == typ && s.Rahmenliste(f).Objektnummer == k)
-                    s.Rahmenliste(f).Objektnummer = k - 1;
-    }
+    if (typ == u"Schrift")
+        EntferneObjekt(s, s.Schriftliste, s.SchriftMax, objekt, typ);
+    else if (typ == u"Bild")
+        EntferneObjekt(s, s.Bildliste, s.BildAnzahl, objekt, typ);
+    else if (typ == u"Linie")
+        EntferneObjekt(s, s.Linienliste, s.LinieAnzahl, objekt, typ);
+    else if (typ == u"RTF")
+        EntferneObjekt(s, s.RTFliste, s.RTFAnzahl, objekt, typ);
+    if (IstKarte(s)) s.SchriftNummer = 21;
 
-    // The stacking levels close up over the gap.
+    // The stacking levels above close up over the gap, level by level.
     const int alle = static_cast<int>(s.RahmenAnzahl);
-    const int ebene = rahmen.z;
-    if (ebene < alle)
+    for (int ebene = rahmen.z; ebene < alle; ++ebene)
         for (int f = 1; f <= alle; ++f)
-            if (f != nummer && s.Rahmenliste(f).z > ebene) s.Rahmenliste(f).z -= 1;
+            if (f != nummer && s.Rahmenliste(f).z == ebene + 1)
+                s.Rahmenliste(f).z = static_cast<int16_t>(ebene);
 
-    for (int f = nummer; f < alle; ++f)
+    // The frames after it move down one place; `bilddaten` stays with the place in the list.
+    for (int f = nummer; f < alle; ++f) {
+        const int16_t bilddaten = s.Rahmenliste(f).bilddaten;
         s.Rahmenliste(f) = s.Rahmenliste(f + 1);
+        s.Rahmenliste(f).bilddaten = bilddaten;
+    }
     s.Rahmenliste(alle) = ClassRahmen{};
     s.RahmenAnzahl -= 1;
 
-    // The lowest-numbered visible frame becomes current.
-    s.RahmenNummer = s.IstEtikett != 0 ? 21 : 1;
-    for (int f = static_cast<int>(s.RahmenAnzahl); f >= 1; --f)
-        if (s.Rahmenliste(f).Sichtbar != 0) s.RahmenNummer = f;
+    // The last visible frame becomes current; on a card, the first address line.
+    if (IstKarte(s) && s.RahmenAnzahl >= 21) {
+        s.RahmenNummer = 21;
+    } else {
+        s.RahmenNummer = std::min<double>(s.RahmenNummer, std::max<double>(1, s.RahmenAnzahl));
+        for (int f = static_cast<int>(s.RahmenAnzahl); f >= 1; --f)
+            if (s.Rahmenliste(f).Sichtbar != 0) {
+                s.RahmenNummer = f;
+                break;
+            }
+    }
+    ObjektNachRahmen(s);
+    MarkerNachRahmen(s);
     ui.AuswahlAktualisieren();
     ui.Neuzeichnen();
     return Loeschergebnis::Geloescht;

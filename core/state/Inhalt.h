@@ -9,10 +9,27 @@ namespace zp {
 struct AppState;
 class Oberflaeche;
 
-// Adds a text ("Schrift"), picture ("Bild") or shape ("Linie") with a new frame on top, makes it
-// current and hands it to mouse placement: the frame stays invisible until it has been drawn
-// (`Auswahlmodus` 1). Returns the new frame's number, 0 for an unknown type.
+// The most objects of one kind and frames a design can hold: stacking levels are 16-bit numbers.
+inline constexpr int GroessteAnzahl = 32767;
+
+// Whether one more object of `typ` and one more frame fit into the document.
+[[nodiscard]] bool PlatzFuerEinfuegen(const AppState& s, const QString& typ);
+
+// The name of a new letter body: "RTF<n>.rtf" with the first n from 1 whose file doesn't exist in
+// `ordner` yet (the file may belong to another design), up to 65535; empty when all are taken.
+[[nodiscard]] QString NeuerBriefname(const QString& ordner);
+
+// Adds a text ("Schrift"), letter body ("RTF"), picture ("Bild") or shape ("Linie") with a new
+// frame on top, makes it current and hands it to mouse placement: the frame stays invisible until
+// it has been drawn (`Auswahlmodus` 1). Returns the new frame's number, 0 for an unknown type or a
+// full document.
 int FuegeInhaltEin(AppState& s, const QString& typ);
+
+// The current object of its kind (SchriftNummer, BildNummer, ...) follows the current frame.
+void ObjektNachRahmen(AppState& s);
+
+// The marker `Rahmen` takes the current frame's box in twips of the page picture.
+void MarkerNachRahmen(AppState& s);
 
 enum class Loeschergebnis {
     Geloescht,   // frame and content object removed
@@ -22,7 +39,8 @@ enum class Loeschergebnis {
     Unveraendert // Kalender template frames: nothing happens
 };
 
-// Deletes frame `RahmenNummer`. `schonGefragt` skips the question, for callers that have asked.
+// Deletes frame `RahmenNummer`. `schonGefragt` skips the question: the path of an insertion that
+// is taken back, whose kept undo step goes with it.
 Loeschergebnis LoescheRahmen(AppState& s, Oberflaeche& ui, bool schonGefragt = false);
 
 } // namespace zp

@@ -7,6 +7,20 @@
 
 namespace zp {
 
+// What changed in the state, for the window to show.
+struct Aenderung {
+    enum : unsigned {
+        Seite = 1,        // the page picture
+        Auswahl = 2,      // the marker around the current frame
+        Zoom = 4,         // zoom and rulers
+        Seitentitel = 8,  // the calendar's page number and count
+        Panel = 16,       // the side panels' boxes
+        Datensatz = 32,   // the record on show
+        Kalendertyp = 64, // the calendar type's button
+        Dateiliste = 128, // recent files and window caption
+    };
+};
+
 class Oberflaeche {
 public:
     virtual ~Oberflaeche() = default;
@@ -21,16 +35,21 @@ public:
         (void)text, (void)titel, (void)detail;
     }
 
-    // Window updates after a change of state; the headless core has no window to update.
-    virtual void Neuzeichnen() {}               // ZeichneSeite on the page view
-    virtual void AuswahlAktualisieren() {}      // selection marker (UpdateSelection)
-    virtual void ZoomAktualisieren() {}         // zoom and rulers
+    // What changed in the state, for the window to show; a notice carries any combination of
+    // Aenderung flags. The headless core has no window to update.
+    virtual void Geaendert(unsigned was) { (void)was; }
+
+    // The usual notices by name.
+    void Neuzeichnen() { Geaendert(Aenderung::Seite); }            // ZeichneSeite on the page view
+    void AuswahlAktualisieren() { Geaendert(Aenderung::Auswahl); } // marker (UpdateSelection)
+    void ZoomAktualisieren() { Geaendert(Aenderung::Zoom); }       // zoom and rulers
+    void SeitentitelAktualisieren() { Geaendert(Aenderung::Seitentitel); }
+    void TypKnopfHervorheben(int, bool) { Geaendert(Aenderung::Kalendertyp); }
+    void DateilisteAktualisieren() { Geaendert(Aenderung::Dateiliste); }
+    void PanelAktualisieren() { Geaendert(Aenderung::Panel); }
+    void DatensatzAnzeigen() { Geaendert(Aenderung::Datensatz); }
+
     virtual void StatusDatei(const QString&) {} // status panel 1: "Aktuelle Datei: " and this path
-    virtual void SeitentitelAktualisieren() {}  // page caption of the calendar
-    virtual void DateilisteAktualisieren() {}   // recent files and window caption
-    virtual void TypKnopfHervorheben(int typ, bool an) { (void)typ, (void)an; }
-    virtual void PanelAktualisieren() {} // side panel boxes from the state
-    virtual void DatensatzAnzeigen() {}  // record view of the card editions
     // The main window's mouse pointer: 11 hourglass, 2 crosshair, 0 default (composition).
     virtual void Mauszeiger(int zeiger) { (void)zeiger; }
     virtual void Statusmeldung(const QString&) {} // a note in the status bar, no answer needed

@@ -1,15 +1,14 @@
 // A file that Open or the import rejects leaves the document, its file names and the status bar
 // as they were, so that the next Save can't go over the rejected file.
-#include "common/ProtokollOberflaeche.h"
 #include "common/TestHilfe.h"
 #include "core/Dokumentbefehle.h"
 #include "core/Importbefehl.h"
-#include "core/Programmdienste.h"
 #include "core/Programmordner.h"
 #include "core/Start.h"
 #include "core/state/AppState.h"
 #include "persist/Design.h"
 #include "persist/Kalenderdaten.h"
+#include "tests/core/state/ProtokollOberflaeche.h"
 
 #include <QFile>
 #include <gtest/gtest.h>
@@ -49,14 +48,14 @@ TEST(Oeffnen, EinAbgelehntesFotoBleibtUnberuehrt) {
         const QByteArray dokument = SchreibeDesign(g.s);
         g.ui.datei = vorher; // what the status bar shows
         g.ui.vorgabeDatei = foto;
-        BefehlOeffnen(g.s, g.ui, ProgrammDienste());
+        BefehlOeffnen(g.s, g.ui);
         EXPECT_EQ(g.ui.meldungen, QStringList{"Falsches Datenformat"}) << edition;
         EXPECT_EQ(g.s.AktuelleDatei, vorher) << edition;
         EXPECT_EQ(g.ui.datei, vorher) << edition;
         EXPECT_EQ(SchreibeDesign(g.s), dokument) << edition;
         EXPECT_EQ(g.s.LadeSperre, 0);
         // Save goes to the document's own file, never over the photo.
-        BefehlSpeichern(g.s, g.ui, ProgrammDienste());
+        BefehlSpeichern(g.s, g.ui);
         QFile f(foto);
         ASSERT_TRUE(f.open(QIODevice::ReadOnly));
         EXPECT_EQ(f.readAll(), Foto) << edition;
@@ -73,7 +72,7 @@ TEST(Oeffnen, KalenderBehaeltDatenUndDesignBeiFalschenDateien) {
     for (const QString& name : {QStringLiteral("kaputt.zpd"), QStringLiteral("kaputt.zpk")}) {
         g.ui.meldungen.clear();
         g.ui.vorgabeDatei = g.Datei(name, Foto);
-        BefehlOeffnen(g.s, g.ui, ProgrammDienste());
+        BefehlOeffnen(g.s, g.ui);
         EXPECT_EQ(g.ui.meldungen, QStringList{"Falsches Datenformat"}) << name.toStdString();
         EXPECT_EQ(g.s.Datendatei, daten);
         EXPECT_EQ(g.s.AktuelleDatei, design);
@@ -91,7 +90,7 @@ TEST(Oeffnen, EinDesignEinesAnderenTypsBringtDieSeiteInSeinenBereich) {
     g.s.Seitenanzahl = 53;
     g.s.Seitennummer = 53;
     g.ui.vorgabeDatei = monat;
-    BefehlOeffnen(g.s, g.ui, ProgrammDienste());
+    BefehlOeffnen(g.s, g.ui);
     ASSERT_EQ(g.s.Kalendertyp, 4);
     EXPECT_LE(g.s.Seitenanzahl, 13);
     EXPECT_GE(g.s.Seitennummer, 1);

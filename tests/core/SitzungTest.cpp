@@ -1,12 +1,13 @@
 // The last session: what one run leaves at its end comes back at the next start.
 #include "core/Sitzung.h"
-#include "common/ProtokollOberflaeche.h"
 #include "common/TestHilfe.h"
 #include "core/Beenden.h"
 #include "core/Programmordner.h"
 #include "core/Start.h"
 #include "core/runtime/TextDatei.h"
 #include "core/state/AppState.h"
+#include "persist/Zusatzeinstellungen.h"
+#include "tests/core/state/ProtokollOberflaeche.h"
 
 #include <QFile>
 #include <gtest/gtest.h>
@@ -44,12 +45,12 @@ TEST(Sitzung, KalenderBringtDieTageDerLetztenSitzungZurueck) {
         EXPECT_TRUE(montag.ui.status.isEmpty());
         TageEintragen(montag.s);
         montag.s.Datendatei = ordner.filePath(QStringLiteral("familie.zpd"));
-        ASSERT_TRUE(BeendenDateienSchreiben(montag.s, montag.ui));
+        ASSERT_TRUE(Beenden(montag.s, montag.ui));
     }
     {
         // Tuesday only looks and ends: the data must not be emptied by that exit.
         Lauf dienstag(ordner, QStringLiteral("Kalender"));
-        ASSERT_TRUE(BeendenDateienSchreiben(dienstag.s, dienstag.ui));
+        ASSERT_TRUE(Beenden(dienstag.s, dienstag.ui));
     }
     Lauf mittwoch(ordner, QStringLiteral("Kalender"));
     const AppState& s = mittwoch.s;
@@ -78,7 +79,7 @@ TEST(Sitzung, AusgeschaltetBeginntDerStartWieBisherUndZpIniBleibtWieSie) {
         EXPECT_TRUE(SitzungWiederherstellenAn(erster.s));
         TageEintragen(erster.s);
         ASSERT_TRUE(SitzungWiederherstellenSetzen(erster.s, erster.ui, false));
-        ASSERT_TRUE(BeendenDateienSchreiben(erster.s, erster.ui));
+        ASSERT_TRUE(Beenden(erster.s, erster.ui));
         ini = *LeseDatei(ordner.filePath(QStringLiteral("zp.ini")));
     }
     Lauf zweiter(ordner, QStringLiteral("Kalender"));
@@ -107,7 +108,7 @@ TEST(Sitzung, EtikettenBehaltenIhreAdressenUndIhrenDateinamen) {
         s.DatensatzAnzahl = 40;
         s.Schriftliste(1).Textstring = QStringLiteral("Absender: Berg");
         s.AktuelleDatei = eigene;
-        ASSERT_TRUE(BeendenDateienSchreiben(s, erster.ui));
+        ASSERT_TRUE(Beenden(s, erster.ui));
     }
     EXPECT_FALSE(QFile::exists(eigene)); // the exit writes the session file, not the user's
     Lauf zweiter(ordner, QStringLiteral("Etikett"));
@@ -138,9 +139,43 @@ TEST(Sitzung, EineUnlesbareSitzungWirdGemeldetUndAufbewahrt) {
         // The start goes on as on a fresh folder.
         EXPECT_TRUE(zweiter.s.Termine(3, 5).isEmpty());
         EXPECT_FALSE(zweiter.s.AktuelleDatei.endsWith(u"sitzung.zps"));
-        ASSERT_TRUE(BeendenDateienSchreiben(zweiter.s, zweiter.ui));
+        ASSERT_TRUE(Beenden(zweiter.s, zweiter.ui));
         EXPECT_EQ(*LeseDatei(datei + QStringLiteral(".defekt")), "kaputt\r\n");
     }
+}
+
+TEST(Sitzung, SchalterUndKalenderzusaetzeTeilenSichZusatzIniUndDieAlteSitzungsIniGiltWeiter) {
+    QTemporaryDir ordner;
+    { Lauf erster(ordner, QStringLiteral("Kalender")); }
+    // An older build's session file, and extras with a key of a newer build and a doubled key.
+    ASSERT_TRUE(SchreibeDateiAtomar(ordner.filePath(QStringLiteral("sitzung.ini")),
+                                    "Wiederherstellen = 0\r\nDatei = /home/ich/alt.zpd\r\n"));
+    ASSERT_TRUE(
+        SchreibeDateiAtomar(ordner.filePath(QStringLiteral("zusatz.ini")),
+                            test::CrLf({"bundesland = Bremen", "zukunft = 7", "bundesland = Berlin"})));
+    Lauf zweiter(ordner, QStringLiteral("Kalender"));
+    EXPECT_FALSE(SitzungWiederherstellenAn(zweiter.s)); // the old file still speaks
+    EXPECT_EQ(zweiter.s.Bundesland, u"Berlin");         // the last of a doubled key
+    zweiter.s.WochennummernIso = true;
+    const QString familie = ordner.filePath(QStringLiteral("familie.zpd"));
+    zweiter.s.Datendatei = familie;
+    ASSERT_TRUE(Beenden(zweiter.s, zweiter.ui));
+
+    const QByteArray zusatz = *LeseDatei(ordner.filePath(QStringLiteral("zusatz.ini")));
+    EXPECT_EQ(Zusatzwert(zusatz, QStringLiteral("wiederherstellen")), QStringLiteral("0"));
+    EXPECT_EQ(Zusatzwert(zusatz, QStringLiteral("sitzungsdatei")), familie);
+    EXPECT_EQ(Zusatzwert(zusatz, QStringLiteral("wochennummern")), QStringLiteral("iso"));
+    EXPECT_EQ(Zusatzwert(zusatz, QStringLiteral("zukunft")), QStringLiteral("7"));
+    EXPECT_EQ(zusatz.count("bundesland"), 1);
+    EXPECT_FALSE(LeseDatei(ordner.filePath(QStringLiteral("zp.ini")))->contains("zusatz"));
+
+    // Switched on: zusatz.ini now holds the switch and outweighs the old file; the extras stay.
+    ASSERT_TRUE(SitzungWiederherstellenSetzen(zweiter.s, zweiter.ui, true));
+    Lauf dritter(ordner, QStringLiteral("Kalender"));
+    EXPECT_TRUE(SitzungWiederherstellenAn(dritter.s));
+    EXPECT_TRUE(dritter.s.WochennummernIso);
+    EXPECT_EQ(dritter.s.Bundesland, u"Berlin");
+    EXPECT_EQ(dritter.s.Datendatei, familie);
 }
 
 } // namespace

@@ -1,11 +1,11 @@
 #include "core/Start.h"
-#include "common/ProtokollOberflaeche.h"
 #include "common/TestHilfe.h"
 #include "core/Beenden.h"
 #include "core/Programmordner.h"
 #include "core/runtime/TextDatei.h"
 #include "core/state/AppState.h"
 #include "core/state/Oberflaeche.h"
+#include "tests/core/state/ProtokollOberflaeche.h"
 
 #include <QDir>
 #include <QFile>
@@ -79,6 +79,10 @@ TEST(Main, SettingsOverrideTheDefaultsAndChooseTheEdition) {
     EXPECT_EQ(s.AktuelleSeite.Höhe, 2970);
     EXPECT_EQ(s.Wochentagsnamen(1), u"Sonntag");
     EXPECT_EQ(s.Wochentagsnamen(8), u"So");
+    // It lacks most keys: what it holds counts, and the user is told the rest are defaults.
+    ASSERT_EQ(ui.ganz.size(), 1);
+    EXPECT_TRUE(ui.ganz[0].contains(u"unvollständig")) << ui.ganz[0].toStdString();
+    ui.ganz.clear();
 
     // A bad settings file is told and leaves the defaults.
     Schreibe(tmp.filePath(QStringLiteral("zp.ini")), "Programmname = ZP Etikett\r\nSeitenbreite = breit\r\n");
@@ -172,7 +176,9 @@ TEST(Schriftenliste, FamiliennamenOhneHerstellerUndMitArial) {
         EXPECT_FALSE(s.Schriftenliste(i).contains(u'[')) << s.Schriftenliste(i).toStdString();
         EXPECT_FALSE(namen.contains(s.Schriftenliste(i))) << s.Schriftenliste(i).toStdString();
         namen << s.Schriftenliste(i);
-        if (namen.last() == u"Arial") EXPECT_EQ(s.SchriftSkalierbar(i), -1);
+        if (namen.last() == u"Arial") {
+            EXPECT_EQ(s.SchriftSkalierbar(i), -1);
+        }
     }
     EXPECT_TRUE(namen.contains(u"Arial"));
 }
@@ -221,7 +227,7 @@ TEST(Beenden, WritesTheEditionsFiles) {
     AppState k = Gestartet(tmp, QStringLiteral("Kalender"), ui);
     k.Kalendertyp = 3;
     k.FarbeTermin = 0x123456;
-    EXPECT_TRUE(BeendenDateienSchreiben(k, ui));
+    EXPECT_TRUE(Beenden(k, ui));
     EXPECT_EQ(k.AktuelleDatei, tmp.path() + QStringLiteral("/kal3.zpk"));
     EXPECT_TRUE(LeseDatei(tmp.filePath(QStringLiteral("kal3.zpk")))->startsWith("ZP Datenfile\r\n"));
     EXPECT_TRUE(LeseDatei(tmp.filePath(QStringLiteral("kalender.ini")))->endsWith("\r\n1193046\r\n"));
@@ -232,14 +238,14 @@ TEST(Beenden, WritesTheEditionsFiles) {
     // A folder that can't be written: told, and the result says so.
     k.Programmpfad = tmp.filePath(QStringLiteral("weg/"));
     ui.ganz.clear();
-    EXPECT_FALSE(BeendenDateienSchreiben(k, ui));
-    EXPECT_EQ(ui.ganz.size(), 5); // sitzung.ini, zp.ini, kalender.ini, auto.zpd, the design
+    EXPECT_FALSE(Beenden(k, ui));
+    EXPECT_EQ(ui.ganz.size(), 5); // zusatz.ini, zp.ini, kalender.ini, auto.zpd, the design
 
     // Visitenkarte: the address records go to daten.dat.
     QTemporaryDir tmp2;
     AppState v = Gestartet(tmp2, QStringLiteral("Visitenkarte"), ui);
     ASSERT_TRUE(LadeStartzustand(v, ui));
     v.Datensaetze(1, 1) = QStringLiteral("Erika Mustermann");
-    EXPECT_TRUE(BeendenDateienSchreiben(v, ui));
+    EXPECT_TRUE(Beenden(v, ui));
     EXPECT_TRUE(LeseDatei(tmp2.filePath(QStringLiteral("daten.dat")))->contains("Erika Mustermann"));
 }

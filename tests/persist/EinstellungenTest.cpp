@@ -43,7 +43,6 @@ TEST(LeseEinstellungen, AppliesTheKeyRules) {
         "Kalenderjahr = 2003,5",
         "Startdatei = nie.zpk",
         "",
-        "ohne Gleichheitszeichen",
         "Seitenrand links = 12.5",
         "Seitenrand oben = 13.5abc",
         "Etikett Vorlage = 7",
@@ -90,6 +89,20 @@ TEST(LeseEinstellungen, ValueThatCannotBeReadChangesNothing) {
     EXPECT_FALSE(LeseEinstellungen(s, test::CrLf({"Querformat = vielleicht"})));
     EXPECT_TRUE(LeseEinstellungen(s, test::CrLf({"Abgleich x = links"})));
     EXPECT_EQ(s.AbgleichX, 0);
+    // Text without "=" is not a settings file; empty lines are passed over.
+    EXPECT_FALSE(LeseEinstellungen(s, test::CrLf({"Programmname = ZP Etikett", "", "\x01\x02 Unsinn"}), &fehler));
+    EXPECT_EQ(fehler.zeile, 3);
+    EXPECT_EQ(s.Programmname, u"ZP Kalender");
+}
+
+TEST(LeseEinstellungen, MissingKeysAreNamed) {
+    AppState s;
+    EXPECT_EQ(FehlendeEinstellungen(SchreibeEinstellungen(s)), QStringList());
+    const QStringList alle = FehlendeEinstellungen({});
+    EXPECT_EQ(alle.size(), 65);
+    EXPECT_EQ(alle.first(), u"Version");
+    EXPECT_EQ(alle.last(), u"Wochentag8");
+    EXPECT_EQ(FehlendeEinstellungen(test::CrLf({"Version = 8.02", "Kalenderjahr = 2027"})).size(), 63);
 }
 
 TEST(SchreibeEinstellungen, WritesTheSixtyFiveKeysInTheirForms) {

@@ -52,10 +52,20 @@ TEST(Kartenformate, BadCatalogueLeavesTheOldOne) {
     EXPECT_EQ(f.zeile, 23);
 }
 
-TEST(Kartenformate, ExitWritesTheEndMarkOnly) {
+TEST(Kartenformate, ExitWritesEveryRowBack) {
     AppState s;
-    ASSERT_TRUE(LeseKartenformate(s, Katalog(5)));
-    EXPECT_EQ(SchreibeKartenformate(s), QByteArray("ende\r\n"));
+    ASSERT_TRUE(LeseKartenformate(s, Katalog(353)));
+    EXPECT_EQ(SchreibeKartenformate(s), Katalog(353));
+    // The user's own rows come back as changed; a name can't break the rows after it, and a
+    // column left empty goes back as a number the reader takes.
+    s.KartenformatNamen(1) = QStringLiteral("Mein Bogen\r\nzweite Zeile");
+    s.KartenformatWerte(3, 2) = QString();
+    AppState t;
+    ASSERT_TRUE(LeseKartenformate(t, SchreibeKartenformate(s)));
+    EXPECT_EQ(t.KartenformatAnzahl, 353);
+    EXPECT_EQ(t.KartenformatNamen(1), u"Mein Bogen zweite Zeile");
+    EXPECT_EQ(t.KartenformatWerte(3, 2), u"0");
+    EXPECT_EQ(t.KartenformatNamen(353), u"Bogen 353");
 }
 
 TEST(Kartenformate, ShippedCatalogueHoldsRealSheetsThatFitOnA4) {

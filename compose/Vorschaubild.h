@@ -1,0 +1,33 @@
+#pragma once
+// The preview box of a property dialog: one text or shape drawn alone at its true size into a
+// white picture, on the image canvas, as the page would draw it.
+
+#include "model/Klassen.h"
+
+#include <QImage>
+#include <QRectF>
+#include <QSize>
+#include <vector>
+
+namespace zp {
+struct AppState;
+
+// The work frame AktuellerRahmen starts 100 twips in from the top left and fills the box less
+// that margin on each side; the object goes into AktuelleSchrift or AktuelleLinie as a copy and
+// is drawn with Vorschaumodus on, which is off again afterwards. The list objects stay as they are.
+[[nodiscard]] QImage SchriftVorschaubild(AppState& s, const ClassSchrift& schrift, QSize pixel);
+[[nodiscard]] QImage LinieVorschaubild(AppState& s, const ClassLinie& linie, QSize pixel);
+
+// What the page draws under a template text: a shape in its frame (tenths of a millimetre).
+struct Grundform {
+    ClassLinie linie;
+    QRectF rahmen;
+};
+// A template text as the page shows it: drawn at its true size (zoom 100) in its frame `rahmen`
+// (tenths of a millimetre, page coordinates), turned as its angle says, over the shapes of `grund`
+// at their places; the piece of the page around the letters, in the proportions of `box`, shrunk
+// to fit when it is larger. A text that draws nothing shows the piece around its frame.
+[[nodiscard]] QImage SchriftAufGrund(AppState& s, const ClassSchrift& schrift, QRectF rahmen,
+                                     const std::vector<Grundform>& grund, QSize box);
+
+} // namespace zp
