@@ -2,6 +2,7 @@
 
 #include "core/state/AppState.h"
 #include "core/state/Inhalt.h"
+#include "core/state/Massstab.h"
 #include "core/state/Oberflaeche.h"
 
 namespace zp {
@@ -25,7 +26,7 @@ void WirdAktuell(AppState& s, int n) {
 } // namespace
 
 double ZehntelAlsTwips(const AppState& s, double zehntel) {
-    return zehntel * (s.Zoomfaktor / 100) * s.Geraetefaktor;
+    return Massstab::Ansicht(s).Twips(zehntel);
 }
 
 void UpdateSelection(AppState& s, Oberflaeche& ui) {

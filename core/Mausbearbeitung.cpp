@@ -5,6 +5,7 @@
 #include "core/runtime/Basic.h"
 #include "core/state/AppState.h"
 #include "core/state/Inhalt.h"
+#include "core/state/Massstab.h"
 #include "core/state/Oberflaeche.h"
 #include "core/state/Verlauf.h"
 
@@ -24,7 +25,7 @@ ClassRahmen* AktuellerRahmen(AppState& s) {
 }
 
 double TwipsJeZehntel(const AppState& s) {
-    return s.Zoomfaktor / 100 * s.Geraetefaktor;
+    return Massstab::Ansicht(s).twipsJeZehntel;
 }
 
 // Twips of the picture in whole tenths of a millimetre, rounded down.

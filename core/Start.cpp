@@ -53,9 +53,7 @@ void LeseBildschirm(AppState& s) {
     s.BildschirmHoehe = groesse.height() * s.TwipsProPixelY;
 }
 
-} // namespace
-
-void Main(AppState& s, const QString& programmpfad, Oberflaeche& ui) {
+void Kalendervorgaben(AppState& s) {
     // 1. Calendar defaults, until the settings are read.
     s.Kalenderjahr = 2002;
     s.Kalendertyp = 1;
@@ -67,6 +65,115 @@ void Main(AppState& s, const QString& programmpfad, Oberflaeche& ui) {
     s.WocheMonat = 1;
     s.Kalendertitel = QStringLiteral("Testkalender");
     s.Kalenderunterschrift = QStringLiteral("Text unter dem Kalender");
+}
+
+void Listengroessen(AppState& s) {
+    // 9. Array sizes; index 0 stays empty.
+    s.Schriftliste.Redim(30);
+    s.Bildliste.Redim(1);
+    s.Rahmenliste.Redim(31);
+    s.Linienliste.Redim(1);
+    s.Farbtabelle.Redim(60);
+    s.RTFliste.Redim(1);
+    s.Datensaetze.Redim(10, 20);
+    s.KartenformatWerte.Redim(10, 400);
+    s.KartenformatNamen.Redim(400);
+    s.KartenformatAnzahl = 0;
+    s.Termine.Redim(31, 12);
+    s.TerminSchrift.Redim(31, 12, -1);
+    s.TerminBack.Redim(31, 12, -1);
+    s.Feiertage.Redim(31, 12);
+    s.FeiertagSchrift.Redim(31, 12, -1);
+    s.FeiertagBack.Redim(31, 12, -1);
+    s.FeiertagWahl.Redim(30);
+    s.Monatsnamen.Redim(12);
+    s.Wochentagsnamen.Redim(8);
+    s.Monatsbilder.Redim(12);
+    s.Monatsbildtexte.Redim(12);
+}
+
+void PaletteUndNamen(AppState& s) {
+    // 10. Palette, names, the first letter body.
+    for (int i = 0; i < 48; ++i)
+        s.Farbtabelle(i + 1) = Palette[i];
+    static const char* const monate[12] = {"Januar",    "Februar", "März",     "April",
+                                           "Mai",       "Juni",    "Juli",     "August",
+                                           "September", "Oktober", "November", "Dezember"};
+    for (int i = 1; i <= 12; ++i)
+        s.Monatsnamen(i) = QString::fromUtf8(monate[i - 1]);
+    static const char* const tage[8] = {"So", "Mo", "Di", "Mi", "Do", "Fr", "Sa", "So"};
+    for (int i = 1; i <= 8; ++i)
+        s.Wochentagsnamen(i) = QString::fromLatin1(tage[i - 1]);
+    s.RTFliste(1) = QStringLiteral("RTF1.rtf");
+}
+
+void EingebautesDokument(AppState& s) {
+    // 11. The built-in document: 30 text frames and the letter-body frame.
+    s.RahmenAnzahl = 0;
+    for (int n = 1; n <= 30; ++n) {
+        ErzeugeRahmen(s, n, QStringLiteral("Schrift"), n);
+        s.Rahmenliste(n).Data = basic::Wahr;
+    }
+    ErzeugeRahmen(s, 31, QStringLiteral("RTF"), 1);
+    s.Rahmenliste(31).Data = basic::Wahr;
+    s.Rahmenliste(31).Sichtbar = basic::Wahr;
+    for (int n = 1; n <= 30; ++n)
+        ErzeugeSchrift(s, n);
+    ErzeugeBild(s, 1);
+}
+
+void Startwerte(AppState& s) {
+    // 12. Bookkeeping.
+    s.Schriftliste(1).Data = 1;
+    s.SchriftNummer = 1;
+    s.SchriftMax = 30;
+    s.FesteRahmen = 31;
+    s.BildNummer = 0;
+    s.BildAnzahl = 0;
+    s.RahmenNummer = 1;
+    s.Zoomfaktor = 150;
+    s.AktuelleSeite.Breite = 2100;
+    s.AktuelleSeite.Höhe = 2980;
+    s.RTFNummer = 1;
+    s.RTFAnzahl = 1;
+    s.DatensatzNummer = 1;
+    s.DatensatzAnzahl = 10;
+    s.AktuellesEtikett.Muster = 1;
+    s.AktuellesEtikett.Designbreite = 80;
+    s.AktuellesEtikett.Farbe1 = RGB(0, 0, 0);
+    s.AktuellesEtikett.Farbe2 = RGB(255, 255, 255);
+    s.AktuellesEtikett.Farbe3 = RGB(255, 255, 255);
+    s.GridAn = -1;
+    s.Rasterbreite = 100;
+    s.Rasterhoehe = 100;
+    s.GitterX = 100;
+    s.GitterY = 50;
+    s.GitterAn = 0;
+    s.RahmenAnzeigen = 0;
+}
+
+void EinstellungenUndEdition(AppState& s, Oberflaeche& ui) {
+    // 13. and 14. Settings, then the edition they name. Before them, what a save cut off by a
+    // crash or kill left behind goes: the files themselves are whole, old or new.
+    RaeumeZwischendateienAuf(s, ui);
+    if (!LoadSettings(s, ui) && s.Programmname.isEmpty()) {
+        // Settings that could not be read name no edition: the folder's name may, as the
+        // per-user folders are named by their edition.
+        const QString edition = NormaleEdition(QFileInfo(s.Programmpfad.chopped(1)).fileName());
+        if (!edition.isEmpty()) {
+            s.Programmname = ProgrammnameDerEdition(edition);
+            ui.Statusmeldung(
+                QStringLiteral("Die Ausgabe „%1“ wurde nach dem Namen des Programmordners gewählt.")
+                    .arg(edition));
+        }
+    }
+    SetzeEditionsflags(s);
+}
+
+} // namespace
+
+void Main(AppState& s, const QString& programmpfad, Oberflaeche& ui) {
+    Kalendervorgaben(s);
 
     // 2. Hourglass; version.
     ui.Mauszeiger(11);
@@ -101,98 +208,12 @@ void Main(AppState& s, const QString& programmpfad, Oberflaeche& ui) {
     s.AktuelleSeite = {};
     s.AktuellesEtikett = {};
 
-    // 9. Array sizes; index 0 stays empty.
-    s.Schriftliste.Redim(30);
-    s.Bildliste.Redim(1);
-    s.Rahmenliste.Redim(31);
-    s.Linienliste.Redim(1);
-    s.Farbtabelle.Redim(60);
-    s.RTFliste.Redim(1);
-    s.Datensaetze.Redim(10, 20);
-    s.KartenformatWerte.Redim(10, 400);
-    s.KartenformatNamen.Redim(400);
-    s.KartenformatAnzahl = 0;
-    s.Termine.Redim(31, 12);
-    s.TerminSchrift.Redim(31, 12, -1);
-    s.TerminBack.Redim(31, 12, -1);
-    s.Feiertage.Redim(31, 12);
-    s.FeiertagSchrift.Redim(31, 12, -1);
-    s.FeiertagBack.Redim(31, 12, -1);
-    s.FeiertagWahl.Redim(30);
-    s.Monatsnamen.Redim(12);
-    s.Wochentagsnamen.Redim(8);
-    s.Monatsbilder.Redim(12);
-    s.Monatsbildtexte.Redim(12);
+    Listengroessen(s);
+    PaletteUndNamen(s);
+    EingebautesDokument(s);
+    Startwerte(s);
 
-    // 10. Palette, names, the first letter body.
-    for (int i = 0; i < 48; ++i)
-        s.Farbtabelle(i + 1) = Palette[i];
-    static const char* const monate[12] = {"Januar",    "Februar", "März",     "April",
-                                           "Mai",       "Juni",    "Juli",     "August",
-                                           "September", "Oktober", "November", "Dezember"};
-    for (int i = 1; i <= 12; ++i)
-        s.Monatsnamen(i) = QString::fromUtf8(monate[i - 1]);
-    static const char* const tage[8] = {"So", "Mo", "Di", "Mi", "Do", "Fr", "Sa", "So"};
-    for (int i = 1; i <= 8; ++i)
-        s.Wochentagsnamen(i) = QString::fromLatin1(tage[i - 1]);
-    s.RTFliste(1) = QStringLiteral("RTF1.rtf");
-
-    // 11. The built-in document: 30 text frames and the letter-body frame.
-    s.RahmenAnzahl = 0;
-    for (int n = 1; n <= 30; ++n) {
-        ErzeugeRahmen(s, n, QStringLiteral("Schrift"), n);
-        s.Rahmenliste(n).Data = basic::Wahr;
-    }
-    ErzeugeRahmen(s, 31, QStringLiteral("RTF"), 1);
-    s.Rahmenliste(31).Data = basic::Wahr;
-    s.Rahmenliste(31).Sichtbar = basic::Wahr;
-    for (int n = 1; n <= 30; ++n)
-        ErzeugeSchrift(s, n);
-    ErzeugeBild(s, 1);
-
-    // 12. Bookkeeping.
-    s.Schriftliste(1).Data = 1;
-    s.SchriftNummer = 1;
-    s.SchriftMax = 30;
-    s.FesteRahmen = 31;
-    s.BildNummer = 0;
-    s.BildAnzahl = 0;
-    s.RahmenNummer = 1;
-    s.Zoomfaktor = 150;
-    s.AktuelleSeite.Breite = 2100;
-    s.AktuelleSeite.Höhe = 2980;
-    s.RTFNummer = 1;
-    s.RTFAnzahl = 1;
-    s.DatensatzNummer = 1;
-    s.DatensatzAnzahl = 10;
-    s.AktuellesEtikett.Muster = 1;
-    s.AktuellesEtikett.Designbreite = 80;
-    s.AktuellesEtikett.Farbe1 = RGB(0, 0, 0);
-    s.AktuellesEtikett.Farbe2 = RGB(255, 255, 255);
-    s.AktuellesEtikett.Farbe3 = RGB(255, 255, 255);
-    s.GridAn = -1;
-    s.Rasterbreite = 100;
-    s.Rasterhoehe = 100;
-    s.GitterX = 100;
-    s.GitterY = 50;
-    s.GitterAn = 0;
-    s.RahmenAnzeigen = 0;
-
-    // 13. and 14. Settings, then the edition they name. Before them, what a save cut off by a
-    // crash or kill left behind goes: the files themselves are whole, old or new.
-    RaeumeZwischendateienAuf(s, ui);
-    if (!LoadSettings(s, ui) && s.Programmname.isEmpty()) {
-        // Settings that could not be read name no edition: the folder's name may, as the
-        // per-user folders are named by their edition.
-        const QString edition = NormaleEdition(QFileInfo(s.Programmpfad.chopped(1)).fileName());
-        if (!edition.isEmpty()) {
-            s.Programmname = ProgrammnameDerEdition(edition);
-            ui.Statusmeldung(
-                QStringLiteral("Die Ausgabe „%1“ wurde nach dem Namen des Programmordners gewählt.")
-                    .arg(edition));
-        }
-    }
-    SetzeEditionsflags(s);
+    EinstellungenUndEdition(s, ui);
 
     // 15. Normal pointer; the window comes next.
     ui.Mauszeiger(0);

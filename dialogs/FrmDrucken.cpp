@@ -44,9 +44,18 @@ FrmDrucken::FrmDrucken(AppState& state, Oberflaeche& ui, QWidget* parent, Drucks
     setObjectName(QStringLiteral("frmDrucken"));
     setWindowTitle(QStringLiteral("Drucken"));
     const Edition e = AktuelleEdition(s);
-    const bool etikett = e == Edition::Etikett;
     auto* haupt = new QVBoxLayout(this);
+    Druckerzeile(haupt);
+    Auftragsfelder(haupt, e);
+    Adressgruppe(haupt, e);
+    Justierung(haupt);
+    Hilfsmarken(haupt);
+    Knoepfe(haupt);
+    Laden(e);
+    Verbindungen();
+}
 
+void FrmDrucken::Druckerzeile(QVBoxLayout* haupt) {
     // Printer.
     auto* druckerZeile = new QHBoxLayout;
     m_drucker = new QComboBox(this);
@@ -57,15 +66,18 @@ FrmDrucken::FrmDrucken(AppState& state, Oberflaeche& ui, QWidget* parent, Drucks
     const int index = m_drucker->findText(aktuell);
     m_drucker->setCurrentIndex(index >= 0 ? index : 0);
     WendeDruckerabgleichAn(s, m_drucker->currentText());
-    auto* einstellen = new QPushButton(QStringLiteral("Standarddrucker"), this);
-    einstellen->setObjectName(QStringLiteral("CommandEinstellen"));
+    m_einstellen = new QPushButton(QStringLiteral("Standarddrucker"), this);
+    m_einstellen->setObjectName(QStringLiteral("CommandEinstellen"));
     druckerZeile->addWidget(m_drucker, 1);
-    druckerZeile->addWidget(einstellen);
+    druckerZeile->addWidget(m_einstellen);
     haupt->addLayout(druckerZeile);
+}
 
-    auto* f = new QFormLayout;
+void FrmDrucken::Auftragsfelder(QVBoxLayout* haupt, Edition e) {
+    const bool etikett = e == Edition::Etikett;
+    m_auftrag = new QFormLayout;
     m_kopien = Feld("Text1", QStringLiteral("1"));
-    f->addRow(QStringLiteral("Kopien"), m_kopien);
+    m_auftrag->addRow(QStringLiteral("Kopien"), m_kopien);
     m_option[5] = new QRadioButton(
         etikett ? QStringLiteral("Etikett drucken") : QStringLiteral("Eine Karte drucken"), this);
     m_option[5]->setObjectName(QStringLiteral("Option5"));
@@ -75,22 +87,25 @@ FrmDrucken::FrmDrucken(AppState& state, Oberflaeche& ui, QWidget* parent, Drucks
     auto* art = new QHBoxLayout;
     art->addWidget(m_option[5]);
     art->addWidget(m_option[6]);
-    f->addRow(art);
+    m_auftrag->addRow(art);
     m_start = Feld("TextStart", QStringLiteral("1"));
-    f->addRow(QStringLiteral("Erste zu bedruckende Etikett"), m_start);
+    m_auftrag->addRow(QStringLiteral("Erste zu bedruckende Etikett"), m_start);
     m_seriennummer = Feld("TextSeriennummer", QString::number(static_cast<long long>(s.Seriennummer)));
-    f->addRow(QStringLiteral("Erste Seriennummer"), m_seriennummer);
+    m_auftrag->addRow(QStringLiteral("Erste Seriennummer"), m_seriennummer);
     auto* seiten = new QHBoxLayout;
     m_druckStart = Feld("TextDruckStart");
     m_druckEnde = Feld("TextDruckEnde");
     seiten->addWidget(m_druckStart);
     seiten->addWidget(new QLabel(QStringLiteral("bis"), this));
     seiten->addWidget(m_druckEnde);
-    f->addRow(QStringLiteral("Drucke Seite von"), seiten);
+    m_auftrag->addRow(QStringLiteral("Drucke Seite von"), seiten);
     m_prozent = Feld("TextProzent");
-    f->addRow(QStringLiteral("Ausdruckgröße in %"), m_prozent);
-    haupt->addLayout(f);
+    m_auftrag->addRow(QStringLiteral("Ausdruckgröße in %"), m_prozent);
+    haupt->addLayout(m_auftrag);
+}
 
+void FrmDrucken::Adressgruppe(QVBoxLayout* haupt, Edition e) {
+    const bool etikett = e == Edition::Etikett;
     // Addresses of the card editions.
     auto* adressen = new QGroupBox(QStringLiteral("Adressen"), this);
     auto* a = new QFormLayout(adressen);
@@ -121,7 +136,9 @@ FrmDrucken::FrmDrucken(AppState& state, Oberflaeche& ui, QWidget* parent, Drucks
     a->addRow(m_option[4]);
     adressen->setVisible(e == Edition::Visitenkarte || etikett);
     haupt->addWidget(adressen);
+}
 
+void FrmDrucken::Justierung(QVBoxLayout* haupt) {
     auto* justierung =
         new QGroupBox(QStringLiteral("Druckerjustierung (Verschiebung des Ausdrucks in 1/10 mm)"), this);
     auto* j = new QFormLayout(justierung);
@@ -130,7 +147,9 @@ FrmDrucken::FrmDrucken(AppState& state, Oberflaeche& ui, QWidget* parent, Drucks
     j->addRow(QStringLiteral("Horizontaler Abgleich"), m_abgleichX);
     j->addRow(QStringLiteral("Vertikaler Abgleich"), m_abgleichY);
     haupt->addWidget(justierung);
+}
 
+void FrmDrucken::Hilfsmarken(QVBoxLayout* haupt) {
     m_hilfsmarken = new QGroupBox(QStringLiteral("Hilfsmarken"), this);
     auto* h = new QVBoxLayout(m_hilfsmarken);
     m_check2 = new QCheckBox(QStringLiteral("Schnittmarken drucken"), m_hilfsmarken);
@@ -140,18 +159,23 @@ FrmDrucken::FrmDrucken(AppState& state, Oberflaeche& ui, QWidget* parent, Drucks
     h->addWidget(m_check2);
     h->addWidget(m_check1);
     haupt->addWidget(m_hilfsmarken);
+}
 
+void FrmDrucken::Knoepfe(QVBoxLayout* haupt) {
     auto* knoepfe = new QHBoxLayout;
     knoepfe->addStretch();
     m_drucken = new QPushButton(QStringLiteral("Drucken"), this);
     m_drucken->setObjectName(QStringLiteral("CommandDrucken"));
     m_drucken->setDefault(true);
-    auto* abbruch = new QPushButton(QStringLiteral("Abbruch"), this);
-    abbruch->setObjectName(QStringLiteral("CommandAbbruch"));
+    m_abbruch = new QPushButton(QStringLiteral("Abbruch"), this);
+    m_abbruch->setObjectName(QStringLiteral("CommandAbbruch"));
     knoepfe->addWidget(m_drucken);
-    knoepfe->addWidget(abbruch);
+    knoepfe->addWidget(m_abbruch);
     haupt->addLayout(knoepfe);
+}
 
+void FrmDrucken::Laden(Edition e) {
+    const bool etikett = e == Edition::Etikett;
     // Load: marks, pages and what the edition shows.
     m_check2->setChecked(s.AktuellesEtikett.Schnittmarken != 0);
     m_check1->setChecked(s.AktuellesEtikett.Schnittrahmen != 0);
@@ -169,9 +193,11 @@ FrmDrucken::FrmDrucken(AppState& state, Oberflaeche& ui, QWidget* parent, Drucks
     // The first label and the running number belong to sheets of pieces, which a calendar or a
     // letterhead doesn't print.
     const bool stuecke = !kalender && e != Edition::Briefkopf;
-    f->setRowVisible(m_start, stuecke);
-    f->setRowVisible(m_seriennummer, stuecke);
+    m_auftrag->setRowVisible(m_start, stuecke);
+    m_auftrag->setRowVisible(m_seriennummer, stuecke);
+}
 
+void FrmDrucken::Verbindungen() {
     // Changes are written at once.
     connect(m_abgleichX, &QLineEdit::textEdited, this,
             [this](const QString& t) { s.AbgleichX = basic::Val(t); });
@@ -189,14 +215,14 @@ FrmDrucken::FrmDrucken(AppState& state, Oberflaeche& ui, QWidget* parent, Drucks
             m_abgleichY->setText(basic::DoubleText(s.AbgleichY));
         }
     });
-    connect(einstellen, &QPushButton::clicked, this, [this] {
+    connect(m_einstellen, &QPushButton::clicked, this, [this] {
         QPrinter drucker;
         if (m_drucker->currentText() != kPdfDatei) drucker.setPrinterName(m_drucker->currentText());
         QPageSetupDialog einrichten(&drucker, this);
         einrichten.exec();
     });
     connect(m_drucken, &QPushButton::clicked, this, &FrmDrucken::CommandDrucken);
-    connect(abbruch, &QPushButton::clicked, this, &QDialog::reject);
+    connect(m_abbruch, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 void FrmDrucken::showEvent(QShowEvent* e) {

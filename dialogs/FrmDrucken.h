@@ -3,6 +3,7 @@
 // "Drucken" hands the boxes to the print run and shows its progress.
 
 #include "core/Druckbefehle.h"
+#include "core/state/Editionen.h"
 
 #include <functional>
 
@@ -10,10 +11,12 @@
 
 class QCheckBox;
 class QComboBox;
+class QFormLayout;
 class QGroupBox;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
+class QVBoxLayout;
 
 namespace zp {
 struct AppState;
@@ -38,6 +41,15 @@ protected:
 
 private:
     QLineEdit* Feld(const char* name, const QString& text = {});
+    // The parts of the dialog, top to bottom, then its first values and its wiring.
+    void Druckerzeile(QVBoxLayout* haupt);
+    void Auftragsfelder(QVBoxLayout* haupt, Edition e);
+    void Adressgruppe(QVBoxLayout* haupt, Edition e);
+    void Justierung(QVBoxLayout* haupt);
+    void Hilfsmarken(QVBoxLayout* haupt);
+    void Knoepfe(QVBoxLayout* haupt);
+    void Laden(Edition e);
+    void Verbindungen();
 
     AppState& s;
     Oberflaeche& m_ui;
@@ -48,7 +60,8 @@ private:
     QRadioButton* m_option[7] = {};
     QCheckBox *m_check1, *m_check2;
     QGroupBox* m_hilfsmarken;
-    QPushButton* m_drucken;
+    QPushButton *m_drucken, *m_einstellen, *m_abbruch;
+    QFormLayout* m_auftrag;
 };
 
 } // namespace zp

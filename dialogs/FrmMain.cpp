@@ -24,6 +24,7 @@
 #include "core/state/AppState.h"
 #include "core/state/Editionen.h"
 #include "core/state/Inhalt.h"
+#include "core/state/Massstab.h"
 #include "core/state/Zoom.h"
 #include "persist/Datensaetze.h"
 #include "render/Bildwerk.h"
@@ -234,7 +235,7 @@ void FrmMain::Neuzeichnen() {
 }
 
 void FrmMain::ApplyZoom() {
-    m_seite->RulerZoom(s.Zoomfaktor, s.TwipsProPixelX > 0 ? s.TwipsProPixelX : 15);
+    m_seite->RulerZoom(s.Zoomfaktor, Massstab::Ansicht(s).twipsProPixelX);
     AuswahlAktualisieren();
     if (s.LadeSperre == 0) Neuzeichnen();
 }
@@ -260,7 +261,7 @@ void FrmMain::AuswahlAktualisieren() {
         return;
     }
     const ClassRahmen& r = s.Rahmenliste(n);
-    const double f = s.Zoomfaktor / 100.0 * TwipsJeZehntelmm / (s.TwipsProPixelX > 0 ? s.TwipsProPixelX : 15);
+    const double f = Massstab::Ansicht(s).PixelJeZehntelX();
     marker->setGeometry(static_cast<int>(r.X * f), static_cast<int>(r.Y * f),
                         std::max(2, static_cast<int>(r.Breite * f)),
                         std::max(2, static_cast<int>(r.Höhe * f)));

@@ -53,7 +53,13 @@ private:
     QWidget* SeiteRaster();
     QGroupBox* GruppeEtiketten();
     QGroupBox* GruppeAbgleich(); // FrmSeiteAbgleich.cpp
-    QWidget* SeiteHintergrund(); // FrmSeiteHintergrund.cpp
+    QWidget* SeiteHintergrund(); // FrmSeiteHintergrund.cpp, with its groups:
+    QGroupBox* HintergrundartGruppe();
+    QGroupBox* FarbenGruppe();
+    QGroupBox* MusterGruppe();
+    QGroupBox* DesignGruppe();
+    void HintergrundLaden();
+    void HintergrundVerbinden();
     QListWidget* Bilderreihe(const char* name, int anzahl, int hoehe);
     void FarbeWaehlen(int welche);
     void FarbfelderZeigen();

@@ -65,8 +65,26 @@ QWidget* FrmSeite::SeiteHintergrund() {
     auto* w = new QWidget(this);
     auto* l = new QHBoxLayout(w);
     auto* links = new QVBoxLayout;
+    links->addWidget(HintergrundartGruppe());
+    links->addWidget(FarbenGruppe());
+    links->addWidget(MusterGruppe());
+    links->addWidget(DesignGruppe());
+    l->addLayout(links, 1);
 
-    auto* art = new QGroupBox(QStringLiteral("Hintergrundart"), w);
+    m_picture2 = new QLabel(w);
+    m_picture2->setObjectName(QStringLiteral("Picture2"));
+    m_picture2->setAccessibleName(QStringLiteral("Vorschau der Karte"));
+    m_picture2->setFixedSize(Kartenvorschau + QSize(10, 10));
+    m_picture2->setAlignment(Qt::AlignCenter);
+    l->addWidget(m_picture2, 0, Qt::AlignTop);
+
+    HintergrundLaden();
+    HintergrundVerbinden();
+    return w;
+}
+
+QGroupBox* FrmSeite::HintergrundartGruppe() {
+    auto* art = new QGroupBox(QStringLiteral("Hintergrundart"), this);
     auto* a = new QGridLayout(art);
     m_verlauf = new QButtonGroup(this);
     const QStringList arten = Hintergrundarten();
@@ -79,9 +97,11 @@ QWidget* FrmSeite::SeiteHintergrund() {
     m_check6 = new QCheckBox(QStringLiteral("Farbverlauf in beide Richtungen"), art);
     m_check6->setObjectName(QStringLiteral("Check6"));
     a->addWidget(m_check6, 3, 0, 1, 2);
-    links->addWidget(art);
+    return art;
+}
 
-    auto* farben = new QGroupBox(QStringLiteral("Farben"), w);
+QGroupBox* FrmSeite::FarbenGruppe() {
+    auto* farben = new QGroupBox(QStringLiteral("Farben"), this);
     auto* f = new QFormLayout(farben);
     const char* titel[4] = {"", "Farbe 1", "Farbe 2", "Farbe des Designs"};
     for (int i = 1; i <= 3; ++i) {
@@ -109,15 +129,30 @@ QWidget* FrmSeite::SeiteHintergrund() {
     datei->addWidget(command4);
     datei->addWidget(m_bilddatei, 1);
     f->addRow(QStringLiteral("Bilddatei"), datei);
-    links->addWidget(farben);
+    connect(command4, &QPushButton::clicked, this, [this] {
+        const QString pfad = QFileDialog::getOpenFileName(
+            this, QStringLiteral("Bilddatei"), QFileInfo(s.EtikettKopie.Bilddatei).absolutePath(),
+            QStringLiteral("Bilder (*.bmp *.jpg *.jpeg *.png *.pcx *.wmf);;Alle Dateien (*)"));
+        if (pfad.isEmpty()) return;
+        s.EtikettKopie.Bilddatei = pfad;
+        s.SeiteKopie.BackBilddatei = pfad;
+        m_bilddatei->setText(QFileInfo(pfad).fileName());
+        m_verlauf->button(OptionVonHintergrundart(4))->setChecked(true);
+        KarteNeu();
+    });
+    return farben;
+}
 
-    auto* muster = new QGroupBox(QStringLiteral("Muster"), w);
+QGroupBox* FrmSeite::MusterGruppe() {
+    auto* muster = new QGroupBox(QStringLiteral("Muster"), this);
     auto* m = new QVBoxLayout(muster);
     m_muster = Bilderreihe("PicMuster", Musteranzahl, Kleinbild.height() + 30);
     m->addWidget(m_muster);
-    links->addWidget(muster);
+    return muster;
+}
 
-    auto* design = new QGroupBox(QStringLiteral("Designart"), w);
+QGroupBox* FrmSeite::DesignGruppe() {
+    auto* design = new QGroupBox(QStringLiteral("Designart"), this);
     auto* d = new QFormLayout(design);
     m_design = Bilderreihe("PicDesign", Designanzahl + 1, Kleinbild.height() + 30);
     d->addRow(m_design);
@@ -129,17 +164,11 @@ QWidget* FrmSeite::SeiteHintergrund() {
     m_hscroll1->setObjectName(QStringLiteral("HScroll1"));
     m_hscroll1->setRange(0, 360);
     d->addRow(QStringLiteral("Drehung"), m_hscroll1);
-    links->addWidget(design);
-    l->addLayout(links, 1);
+    return design;
+}
 
-    m_picture2 = new QLabel(w);
-    m_picture2->setObjectName(QStringLiteral("Picture2"));
-    m_picture2->setAccessibleName(QStringLiteral("Vorschau der Karte"));
-    m_picture2->setFixedSize(Kartenvorschau + QSize(10, 10));
-    m_picture2->setAlignment(Qt::AlignCenter);
-    l->addWidget(m_picture2, 0, Qt::AlignTop);
-
-    // The controls as the copy stands.
+// The controls as the copy stands.
+void FrmSeite::HintergrundLaden() {
     const ClassEtikett& e = s.EtikettKopie;
     if (QAbstractButton* o = m_verlauf->button(OptionVonHintergrundart(e.Farbüberlauf))) o->setChecked(true);
     m_check6->setChecked(s.SeiteKopie.BackFarbverlaufart != 0);
@@ -150,7 +179,10 @@ QWidget* FrmSeite::SeiteHintergrund() {
     MusterUndDesignsZeigen();
     m_muster->setCurrentRow(std::clamp(e.Muster - 1, 0, Musteranzahl - 1));
     m_design->setCurrentRow(std::clamp(e.Design, 0, Designanzahl));
+}
 
+// Each control writes the copy and redraws the card.
+void FrmSeite::HintergrundVerbinden() {
     connect(m_verlauf, &QButtonGroup::idToggled, this, [this](int option, bool an) {
         if (m_fuellen || !an) return;
         HintergrundartGewaehlt(s, option);
@@ -159,17 +191,6 @@ QWidget* FrmSeite::SeiteHintergrund() {
     connect(m_check6, &QCheckBox::toggled, this, [this](bool an) {
         if (m_fuellen) return;
         s.SeiteKopie.BackFarbverlaufart = an ? -1 : 0;
-        KarteNeu();
-    });
-    connect(command4, &QPushButton::clicked, this, [this] {
-        const QString pfad = QFileDialog::getOpenFileName(
-            this, QStringLiteral("Bilddatei"), QFileInfo(s.EtikettKopie.Bilddatei).absolutePath(),
-            QStringLiteral("Bilder (*.bmp *.jpg *.jpeg *.png *.pcx *.wmf);;Alle Dateien (*)"));
-        if (pfad.isEmpty()) return;
-        s.EtikettKopie.Bilddatei = pfad;
-        s.SeiteKopie.BackBilddatei = pfad;
-        m_bilddatei->setText(QFileInfo(pfad).fileName());
-        m_verlauf->button(OptionVonHintergrundart(4))->setChecked(true);
         KarteNeu();
     });
     connect(m_muster, &QListWidget::currentRowChanged, this, [this](int zeile) {
@@ -193,7 +214,6 @@ QWidget* FrmSeite::SeiteHintergrund() {
         if (m_fuellen) return;
         s.EtikettKopie.Drehung = wert;
     });
-    return w;
 }
 
 void FrmSeite::FarbeWaehlen(int welche) {

@@ -4,6 +4,7 @@
 #include "core/Mausbearbeitung.h"
 #include "core/Rahmenbefehle.h"
 #include "core/state/AppState.h"
+#include "core/state/Massstab.h"
 #include "core/state/Zoom.h"
 
 #include <QCursor>
@@ -173,7 +174,7 @@ void Seitenbild::keyPressEvent(QKeyEvent* e) {
         return QWidget::keyPressEvent(e);
     }
     // The status panels show where the frame stands now, as after a drag.
-    const double f = m_s->Zoomfaktor / 100 * m_s->Geraetefaktor;
+    const double f = Massstab::Ansicht(*m_s).twipsJeZehntel;
     if (f > 0)
         emit statusGeaendert(static_cast<int>(std::floor(m_s->Rahmen.Left / f + 1e-9)),
                              static_cast<int>(std::floor(m_s->Rahmen.Top / f + 1e-9)));

@@ -2,6 +2,7 @@
 
 #include "core/runtime/Basic.h"
 #include "core/state/AppState.h"
+#include "core/state/Massstab.h"
 #include "core/state/Oberflaeche.h"
 #include "core/state/Objekte.h"
 #include "core/state/Textfelder.h"
@@ -149,7 +150,7 @@ void MarkerNachRahmen(AppState& s) {
     const int n = static_cast<int>(s.RahmenNummer);
     if (!RahmenGueltig(s, n)) return;
     const ClassRahmen& r = s.Rahmenliste(n);
-    const double f = s.Zoomfaktor / 100 * s.Geraetefaktor;
+    const double f = Massstab::Ansicht(s).twipsJeZehntel;
     s.Rahmen = {r.X * f, r.Y * f, r.Breite * f, r.Höhe * f};
 }
 
