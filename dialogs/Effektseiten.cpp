@@ -174,4 +174,14 @@ void Schattenseite::Richtung(int winkel) {
     if (!m_winkelText->hasFocus()) m_winkelText->setText(QString::number(winkel));
 }
 
+void ErstesFeldFokussieren(QWidget* seite) {
+    for (QWidget* w = seite->nextInFocusChain(); w && w != seite; w = w->nextInFocusChain()) {
+        if (!seite->isAncestorOf(w)) break;
+        if ((w->focusPolicy() & Qt::TabFocus) && w->isEnabled()) {
+            w->setFocus(Qt::TabFocusReason);
+            return;
+        }
+    }
+}
+
 } // namespace zp

@@ -82,4 +82,7 @@ private:
     int m_winkel = 45;
 };
 
+// The keyboard's focus to the first control of `seite` that takes it, as when one tabs into it.
+void ErstesFeldFokussieren(QWidget* seite);
+
 } // namespace zp
