@@ -5,6 +5,9 @@
 #include "render/ZeichneLinie.h"
 #include "render/ZeichneSchrift.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace zp {
 
 namespace {
@@ -48,6 +51,23 @@ private:
 double Bildschirmtwips(double wert) {
     return wert > 0 ? wert : 15;
 }
+
+// One axis of the shape preview in pixels: where the frame starts and how long it is in a box of
+// `box` pixels, with a margin for wide pens and room for a shadow `versatz` pixels long. The edges
+// and the middle fall at 0.3, 0.7 and 0.5 of a pixel: a bar a tenth of a millimetre thick, which
+// is narrower than a pixel, rounds to one whole pixel there instead of to none.
+struct Vorschaustrecke {
+    double anfang = 0, laenge = 0;
+
+    static Vorschaustrecke In(int box, double versatz) {
+        constexpr int rand = 7; // about 100 twips: half of a pen of 2.5 mm
+        const int frei = box - 2 * rand - static_cast<int>(std::ceil(std::abs(versatz)));
+        int laenge = std::max(0, frei - 1);
+        laenge -= laenge % 2; // an even length puts the middle on the half pixel
+        const int anfang = rand + (versatz < 0 ? static_cast<int>(std::ceil(-versatz)) : 0);
+        return {anfang + 0.3, laenge + 0.4};
+    }
+};
 
 // Below this the preview stops shrinking: a text a third of its size still reads.
 constexpr double kKleinsterMassstab = 0.33;
@@ -93,11 +113,15 @@ QImage Linienvorschau(AppState& s, ClassLinie linie, QSize pixel) {
     ImageCanvas box(pixel, CanvasArt::Vorschau, tppX, tppY);
     const Vorschauzeit zeit(s, tppX, tppY);
     const double F = s.Geraetefaktor > 0 ? s.Geraetefaktor : 5.67;
-    constexpr double rand = 100; // twips
+    // The shape keeps a margin for wide pens and gives way to its shadow, so that both show whole.
+    const Schattenlage schatten = Schattenversatz(linie);
+    const Vorschaustrecke x = Vorschaustrecke::In(pixel.width(), schatten.DX / tppX);
+    const Vorschaustrecke y = Vorschaustrecke::In(pixel.height(), schatten.DY / tppY);
     ClassRahmen rahmen;
-    rahmen.X = rahmen.Y = rand / F;
-    rahmen.Breite = std::max(0.0, pixel.width() * tppX - 2 * rand) / F;
-    rahmen.Höhe = std::max(0.0, pixel.height() * tppY - 2 * rand) / F;
+    rahmen.X = x.anfang * tppX / F;
+    rahmen.Y = y.anfang * tppY / F;
+    rahmen.Breite = x.laenge * tppX / F;
+    rahmen.Höhe = y.laenge * tppY / F;
     ZeichneLinie(s, box, linie, rahmen);
     return box.Bild();
 }

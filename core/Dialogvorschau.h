@@ -15,7 +15,8 @@ struct ClassLinie;
 // than the box is shown smaller, so that it stays whole.
 [[nodiscard]] QImage Schriftvorschau(AppState& s, ClassSchrift schrift, QSize pixel);
 
-// The shape in the box less a margin of 100 twips on each side.
+// The shape in the box less a margin of about 100 twips on each side and the room its shadow
+// takes, so that shape and shadow show whole; a hairline bar still shows as one pixel.
 [[nodiscard]] QImage Linienvorschau(AppState& s, ClassLinie linie, QSize pixel);
 
 // The thumbnail of catalogue shape `form` (1 to 18), `pixel` wide and high.

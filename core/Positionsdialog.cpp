@@ -17,8 +17,16 @@ ClassRahmen* AktuellerRahmenVon(AppState& s) {
     return &s.Rahmenliste(n);
 }
 
+// A box shows two decimals at most: a frame drawn with the mouse lies on fractions of a tenth of
+// a millimetre that nobody would type.
 QString Zahltext(double wert) {
-    return basic::DoubleText(wert);
+    return basic::DoubleText(std::round(wert * 100) / 100);
+}
+
+// The value of a box for the frame: a box still showing the frame's own value keeps it exactly,
+// so that Ok on untouched boxes moves nothing by the rounding of the display.
+double Feldwert(const QString& text, double bisher) {
+    return text == Zahltext(bisher) ? bisher : Positionszahl(text);
 }
 
 // Position box `lage` against size box `groesse` on a page of `seitenmass`.
@@ -102,10 +110,10 @@ bool PositionsdialogOk(AppState& s, Oberflaeche& ui, Positionsfelder f) {
     for (int nummer = 1; nummer <= 4; ++nummer)
         PositionsfeldReparieren(f, nummer, s.AktuelleSeite);
     if (s.Auswahlmodus == 0) VerlaufMerken(s); // while inserting, the insertion's step holds it
-    r->X = Positionszahl(f.Text1);
-    r->Y = Positionszahl(f.Text2);
-    r->Breite = Positionszahl(f.Text3);
-    r->Höhe = Positionszahl(f.Text4);
+    r->X = Feldwert(f.Text1, r->X);
+    r->Y = Feldwert(f.Text2, r->Y);
+    r->Breite = Feldwert(f.Text3, r->Breite);
+    r->Höhe = Feldwert(f.Text4, r->Höhe);
     r->Proportional = basic::AlsWahrheit(f.Check1);
     r->Verankert = basic::AlsWahrheit(f.Check2);
     s.LadeSperre = 0;

@@ -74,7 +74,14 @@ Schattenseite::Schattenseite(int groesste, QWidget* eltern) : QWidget(eltern) {
     m_tiefe->setPageStep(std::max(1, groesste / 10));
     auto* tiefeTitel = new QLabel(QStringLiteral("Schatten&stärke"), this);
     tiefeTitel->setBuddy(m_tiefe);
-    form->addRow(tiefeTitel, m_tiefe);
+    // The slider's value beside it, as the line strength has it: a user sees what a step does.
+    m_tiefeWert = new QLabel(this);
+    m_tiefeWert->setObjectName(QStringLiteral("LabelSchatten"));
+    m_tiefeWert->setMinimumWidth(40);
+    auto* tiefeZeile = new QHBoxLayout;
+    tiefeZeile->addWidget(m_tiefe, 1);
+    tiefeZeile->addWidget(m_tiefeWert);
+    form->addRow(tiefeTitel, tiefeZeile);
     spalte->addLayout(form);
 
     auto* typen = new QHBoxLayout;
@@ -121,7 +128,10 @@ Schattenseite::Schattenseite(int groesste, QWidget* eltern) : QWidget(eltern) {
     spalte->addWidget(m_farben);
     spalte->addStretch();
 
-    connect(m_tiefe, &QSlider::valueChanged, this, &Schattenseite::geaendert);
+    connect(m_tiefe, &QSlider::valueChanged, this, [this](int wert) {
+        m_tiefeWert->setNum(wert);
+        emit geaendert();
+    });
     connect(m_typGruppe, &QButtonGroup::idClicked, this, [this](int typ) {
         m_typ = typ == 1 ? 1 : 2;
         emit geaendert();
@@ -141,6 +151,7 @@ Schattenseite::Schattenseite(int groesste, QWidget* eltern) : QWidget(eltern) {
 void Schattenseite::ZeigeWerte(int tiefe, int typ, int winkel) {
     const QSignalBlocker sperre(m_tiefe);
     m_tiefe->setValue(tiefe);
+    m_tiefeWert->setNum(m_tiefe->value());
     m_typ = typ;
     if (QAbstractButton* b = m_typGruppe->button(typ == 1 ? 1 : 2)) b->setChecked(true);
     m_winkel = winkel;
@@ -161,6 +172,16 @@ void Schattenseite::Richtung(int winkel) {
         b->setChecked(m_richtung->id(b) == winkel);
     m_richtung->setExclusive(true);
     if (!m_winkelText->hasFocus()) m_winkelText->setText(QString::number(winkel));
+}
+
+void ErstesFeldFokussieren(QWidget* seite) {
+    for (QWidget* w = seite->nextInFocusChain(); w && w != seite; w = w->nextInFocusChain()) {
+        if (!seite->isAncestorOf(w)) break;
+        if ((w->focusPolicy() & Qt::TabFocus) && w->isEnabled()) {
+            w->setFocus(Qt::TabFocusReason);
+            return;
+        }
+    }
 }
 
 } // namespace zp

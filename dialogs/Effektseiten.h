@@ -7,6 +7,7 @@
 #include <QWidget>
 
 class QButtonGroup;
+class QLabel;
 class QLineEdit;
 class QRadioButton;
 class QSlider;
@@ -72,6 +73,7 @@ private:
     void Richtung(int winkel);
 
     QSlider* m_tiefe = nullptr;
+    QLabel* m_tiefeWert = nullptr;
     QButtonGroup* m_typGruppe = nullptr;
     QButtonGroup* m_richtung = nullptr;
     QLineEdit* m_winkelText = nullptr;
@@ -79,5 +81,8 @@ private:
     int m_typ = 0;
     int m_winkel = 45;
 };
+
+// The keyboard's focus to the first control of `seite` that takes it, as when one tabs into it.
+void ErstesFeldFokussieren(QWidget* seite);
 
 } // namespace zp

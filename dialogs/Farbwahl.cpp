@@ -4,11 +4,13 @@
 #include <QButtonGroup>
 #include <QColorDialog>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QPixmap>
 #include <QPushButton>
 #include <QToolButton>
+#include <algorithm>
 
 namespace zp {
 
@@ -58,7 +60,40 @@ Farbpalette::Farbpalette(const Liste<Farbe>& farbtabelle, QWidget* eltern) : QWi
         // A hue per column, its six shades from dark to light down the column.
         raster->addWidget(zelle, (i - 1) % 6, (i - 1) / 6);
         connect(zelle, &QToolButton::clicked, this, [this, farbe] { emit gewaehlt(farbe); });
+        zelle->setFocusPolicy(i == 1 ? Qt::StrongFocus : Qt::ClickFocus);
+        zelle->installEventFilter(this);
+        m_zellen.push_back(zelle);
     }
+}
+
+bool Farbpalette::eventFilter(QObject* objekt, QEvent* e) {
+    if (e->type() != QEvent::KeyPress) return QWidget::eventFilter(objekt, e);
+    const auto it = std::find(m_zellen.begin(), m_zellen.end(), objekt);
+    if (it == m_zellen.end()) return false;
+    const int i = static_cast<int>(it - m_zellen.begin()); // 0-based: column i / 6, row i % 6
+    int ziel = i;
+    switch (static_cast<QKeyEvent*>(e)->key()) {
+    case Qt::Key_Left:
+        ziel = i - 6;
+        break;
+    case Qt::Key_Right:
+        ziel = i + 6;
+        break;
+    case Qt::Key_Up:
+        ziel = i % 6 > 0 ? i - 1 : i;
+        break;
+    case Qt::Key_Down:
+        ziel = i % 6 < 5 ? i + 1 : i;
+        break;
+    default:
+        return false;
+    }
+    if (ziel < 0 || ziel >= static_cast<int>(m_zellen.size()) || ziel == i) return true;
+    // The cell with the focus is the palette's Tab stop from now on.
+    m_zellen[i]->setFocusPolicy(Qt::ClickFocus);
+    m_zellen[ziel]->setFocusPolicy(Qt::StrongFocus);
+    m_zellen[ziel]->setFocus(Qt::TabFocusReason);
+    return true;
 }
 
 Farbpaar::Farbpaar(const QString& titel1, const QString& titel2, const char* mehr1, const char* mehr2,

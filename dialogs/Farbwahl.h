@@ -9,6 +9,7 @@
 #include <QWidget>
 #include <functional>
 #include <optional>
+#include <vector>
 
 class QAbstractButton;
 class QButtonGroup;
@@ -33,6 +34,14 @@ public:
     explicit Farbpalette(const Liste<Farbe>& farbtabelle, QWidget* eltern = nullptr);
 signals:
     void gewaehlt(zp::Farbe farbe);
+
+protected:
+    // The palette is one stop of the Tab key; the arrow keys move between its cells and the space
+    // bar picks one, so that Tab doesn't have to walk through 48 colours.
+    bool eventFilter(QObject* objekt, QEvent* e) override;
+
+private:
+    std::vector<QToolButton*> m_zellen;
 };
 
 // Two colours of an object (text colour and gradient end, or the two shadow colours): a box for

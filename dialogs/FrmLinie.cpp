@@ -87,6 +87,7 @@ FrmLinie::FrmLinie(AppState& zustand, const ClassLinie& linie, QWidget* eltern)
 
     Zeigen();
     m_palette->setEnabled(false);
+    SeiteWaehlen(1);
 }
 
 QWidget* FrmLinie::SeiteForm() {
@@ -170,7 +171,9 @@ void FrmLinie::PaletteGewaehlt(Farbe farbe) {
 }
 
 void FrmLinie::SeiteWaehlen(int seite) {
-    if (seite >= 1 && seite <= m_seiten->count()) m_seiten->setCurrentIndex(seite - 1);
+    if (seite < 1 || seite > m_seiten->count()) return;
+    m_seiten->setCurrentIndex(seite - 1);
+    ErstesFeldFokussieren(m_seiten->currentWidget());
 }
 
 void FrmLinie::SetzeFarbdialog(const Farbdialog& dialog) {

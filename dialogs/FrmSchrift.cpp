@@ -99,7 +99,7 @@ FrmSchrift::FrmSchrift(AppState& zustand, const ClassSchrift& schrift, QWidget* 
 
     Zeigen();
     m_palette->setEnabled(false);
-    m_combo1->setFocus();
+    SeiteWaehlen(1);
 }
 
 QWidget* FrmSchrift::SeiteSchrift() {
@@ -271,7 +271,15 @@ QString FrmSchrift::Schrifttext() const {
 }
 
 void FrmSchrift::SeiteWaehlen(int seite) {
-    if (seite >= 1 && seite <= m_seiten->count()) m_seiten->setCurrentIndex(seite - 1);
+    if (seite < 1 || seite > m_seiten->count()) return;
+    m_seiten->setCurrentIndex(seite - 1);
+    // The page opens ready for typing: the angle straight into its box, elsewhere the first control.
+    if (m_seiten->currentWidget() == m_angle->parentWidget()) {
+        m_angle->setFocus(Qt::TabFocusReason);
+        m_angle->selectAll();
+    } else {
+        ErstesFeldFokussieren(m_seiten->currentWidget());
+    }
 }
 
 void FrmSchrift::SetzeFarbdialog(const Farbdialog& dialog) {

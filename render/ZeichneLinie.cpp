@@ -58,6 +58,15 @@ void Grundzustand(Canvas& c) {
 }
 } // namespace
 
+Schattenlage Schattenversatz(const ClassLinie& linie) {
+    const double D = linie.ShadowDeep * 10.0;
+    if (!(D > 0)) return {};
+    int A = linie.ShadowAngle + 90 + linie.Angle;
+    if (A > 360) A -= 360;
+    const double t = A * kPi / 180;
+    return {std::sin(t) * D, std::cos(t) * D};
+}
+
 void ZeichneLinie(AppState& s, Canvas& ziel, ClassLinie& linie, ClassRahmen& rahmen) {
     // 1. A calendar day paints its shape filled in the day's colour.
     const bool farbeVorgegeben = s.Farbvorgabe > -1;
@@ -101,24 +110,21 @@ void ZeichneLinie(AppState& s, Canvas& ziel, ClassLinie& linie, ClassRahmen& rah
     }
 
     // 6. Shadow: a length in twips, so it doesn't grow with the zoom; it turns with the angle.
-    const double D = linie.ShadowDeep * 10.0;
     const int n = s.Verlaufsschritte > 0 ? s.Verlaufsschritte : 1;
-    if (D > 0) {
-        int A = linie.ShadowAngle + 90 + linie.Angle;
-        if (A > 360) A -= 360;
-        const double t = A * kPi / 180;
+    if (linie.ShadowDeep * 10.0 > 0) {
+        const Schattenlage voll = Schattenversatz(linie);
         if (linie.ShadowType == 1) {
             ziel.ForeColor = ziel.FillColor = linie.ShadowColor1;
-            g.DX = std::sin(t) * D;
-            g.DY = std::cos(t) * D;
+            g.DX = voll.DX;
+            g.DY = voll.DY;
             FormZeichnen(ziel, linie, rahmen, g);
         } else {
             const Farbanteile nah = Zerlege(linie.ShadowColor1);
             const Farbanteile fern = Zerlege(linie.ShadowColor2);
             for (int i = 1; i <= n; ++i) {
                 ziel.NeueStufe();
-                g.DX = D * std::sin(t) - (D * std::sin(t) / n) * i;
-                g.DY = D * std::cos(t) - (D * std::cos(t) / n) * i;
+                g.DX = voll.DX - (voll.DX / n) * i;
+                g.DY = voll.DY - (voll.DY / n) * i;
                 ziel.ForeColor = ziel.FillColor = Stufenfarbe(fern, nah, i, n);
                 FormZeichnen(ziel, linie, rahmen, g);
             }

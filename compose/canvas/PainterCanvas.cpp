@@ -453,10 +453,20 @@ void PainterCanvas::Polygon(const std::vector<QPoint>& points) {
     Ausgeben(std::move(z));
 }
 
+namespace {
+// The box of a GDI rectangle or ellipse: the device orders the corners itself, so a box given
+// right to left or bottom to top is the same box. (QRect::normalized would lose a box one
+// pixel across given the wrong way round: its width counts 0, not -2.)
+QRect Gdikasten(int left, int top, int right, int bottom) {
+    return {QPoint(std::min(left, right), std::min(top, bottom)),
+            QPoint(std::max(left, right), std::max(top, bottom))};
+}
+} // namespace
+
 void PainterCanvas::Rectangle(int left, int top, int right, int bottom) {
     Zeichnung z;
     StiftUndPinsel(z, true);
-    const QRect r = QRect(QPoint(left, top), QPoint(right, bottom)).normalized();
+    const QRect r = Gdikasten(left, top, right, bottom);
     if (r.width() <= 1 || r.height() <= 1) return; // the device draws nothing for an empty box
     // Pen and brush together cover the pixels from left/top up to, not including, right/bottom.
     if (z.stift.style() == Qt::NoPen) {
@@ -473,7 +483,7 @@ void PainterCanvas::Rectangle(int left, int top, int right, int bottom) {
 void PainterCanvas::Ellipse(int left, int top, int right, int bottom) {
     Zeichnung z;
     StiftUndPinsel(z, true);
-    const QRect r = QRect(QPoint(left, top), QPoint(right, bottom)).normalized();
+    const QRect r = Gdikasten(left, top, right, bottom);
     if (r.width() <= 1 || r.height() <= 1) return;
     z.art = Zeichnung::Art::Ellipse;
     z.rechteck = r.adjusted(0, 0, -2, -2);

@@ -219,6 +219,24 @@ TEST(Positionsdialog, OpenShowsTheFrameOkRepairsInOrderAndWrites) {
     EXPECT_EQ(r.X, 0);
 }
 
+TEST(Positionsdialog, BoxesShowTwoDecimalsAndUntouchedOnesKeepTheFramesValue) {
+    AppState s = Dokument();
+    Fenster ui;
+    ClassRahmen& r = s.Rahmenliste(1);
+    r.X = 716.845878136201; // where a drag with the mouse leaves a frame
+    r.Y = 209.080047789725;
+    r.Breite = 512.0327;
+    Positionsfelder f = PositionsdialogOeffnen(s);
+    EXPECT_EQ(f.Text1, QStringLiteral("716,85"));
+    EXPECT_EQ(f.Text2, QStringLiteral("209,08"));
+    EXPECT_EQ(f.Text3, QStringLiteral("512,03"));
+    f.Text2 = QStringLiteral("150");
+    ASSERT_TRUE(PositionsdialogOk(s, ui, f));
+    EXPECT_EQ(r.X, 716.845878136201); // untouched: not moved by the rounding
+    EXPECT_EQ(r.Y, 150);
+    EXPECT_EQ(r.Breite, 512.0327);
+}
+
 TEST(Formatleiste, StyleKeysToggleAndAlignmentsAreExclusive) {
     AppState s = Dokument();
     Fenster ui;
@@ -378,6 +396,51 @@ TEST(Dialogvorschau, ALargeTextIsShownWholeAndASmallOneAtItsSize) {
     EXPECT_LT(schraeg.bottom(), box.height() - 1);
     // Not shrunk further than it needs: one step less would have reached the edge.
     EXPECT_GT(std::max(schraeg.width() / double(box.width()), schraeg.height() / double(box.height())), 0.75);
+    EXPECT_EQ(s.Vorschaumodus, 0);
+}
+
+TEST(Dialogvorschau, HairlinesShowAndAShadowStaysInTheBox) {
+    AppState s;
+    ClassLinie l;
+    l.Stärke = 1; // a tenth of a millimetre: thinner than a pixel of the box
+    const QSize box(300, 150);
+    for (int form : {1, 2, 5, 6, 7, 8, 9, 10, 11}) {
+        l.Form = static_cast<int16_t>(form);
+        EXPECT_FALSE(Tinte(Linienvorschau(s, l, box)).isEmpty()) << form;
+    }
+    // Both rules of form 9 show, the bottom one too.
+    l.Form = 9;
+    EXPECT_GT(Tinte(Linienvorschau(s, l, box)).height(), box.height() / 2);
+
+    // A rectangle with a hard grey shadow down to the right, and one up to the left: the shadow
+    // shows, and neither shape nor shadow reaches the box's edge.
+    l.Form = 16;
+    l.Stärke = 20;
+    l.ShadowDeep = 30;
+    l.ShadowType = 1;
+    l.ShadowColor1 = 0x808080;
+    for (int richtung : {315, 135}) {
+        l.ShadowAngle = static_cast<int16_t>(richtung);
+        const QImage bild = Linienvorschau(s, l, box);
+        QRect grau, alles;
+        for (int y = 0; y < bild.height(); ++y)
+            for (int x = 0; x < bild.width(); ++x) {
+                const QRgb p = bild.pixel(x, y);
+                if (qGray(p) < 250) alles |= QRect(x, y, 1, 1);
+                if (qAbs(qGray(p) - 128) < 4) grau |= QRect(x, y, 1, 1);
+            }
+        ASSERT_FALSE(grau.isEmpty()) << richtung;
+        EXPECT_GT(alles.left(), 0) << richtung;
+        EXPECT_GT(alles.top(), 0) << richtung;
+        EXPECT_LT(alles.right(), box.width() - 1) << richtung;
+        EXPECT_LT(alles.bottom(), box.height() - 1) << richtung;
+        // The shadow lies on its side: below right of the shape for 315 degrees.
+        const QRect form = Tinte(bild);
+        if (richtung == 315)
+            EXPECT_GT(grau.right(), form.right()) << richtung;
+        else
+            EXPECT_LT(grau.left(), form.left()) << richtung;
+    }
     EXPECT_EQ(s.Vorschaumodus, 0);
 }
 

@@ -19,6 +19,7 @@
 #include <QLineEdit>
 #include <QSlider>
 #include <QTabWidget>
+#include <QTest>
 #include <QTimer>
 #include <QValidator>
 #include <functional>
@@ -180,6 +181,42 @@ TEST(FrmSchrift, EscapeCancelsAndAnUnknownFontKeepsItsName) {
     EXPECT_TRUE(SchriftBearbeiten(nullptr, s, t, 4));
     EXPECT_EQ(t.Angle, 90);
     EXPECT_EQ(t.Textstring, QStringLiteral("Probe"));
+}
+
+// From the keyboard: a page opens with the focus in its first box (the angle's box on the angle
+// page), and the palette is one stop of the Tab key whose cells the arrow keys walk.
+TEST(FrmSchrift, KeyboardReachesThePageAndWalksThePalette) {
+    AppState s = Zustand();
+    FrmSchrift d(s, s.Schriftliste(1));
+    d.SeiteWaehlen(4);
+    d.show();
+    QApplication::setActiveWindow(&d);
+    auto* winkel = Kind<QLineEdit>(d, QStringLiteral("MaskEdBoxAngle"));
+    EXPECT_EQ(d.focusWidget(), winkel);
+    EXPECT_EQ(winkel->selectedText(), QStringLiteral("0")); // typing replaces the old angle
+
+    d.SeiteWaehlen(2);
+    auto* zelle1 = Kind<QWidget>(d, QStringLiteral("ImageFarbe_1"));
+    auto* zelle2 = Kind<QWidget>(d, QStringLiteral("ImageFarbe_2"));
+    auto* zelle7 = Kind<QWidget>(d, QStringLiteral("ImageFarbe_7"));
+    int stopps = 0;
+    for (int i = 1; i <= 48; ++i)
+        stopps += (d.findChild<QWidget*>(QStringLiteral("ImageFarbe_%1").arg(i))->focusPolicy() &
+                   Qt::TabFocus) != 0;
+    EXPECT_EQ(stopps, 1);
+    zelle1->setFocus();
+    Taste(*zelle1, Qt::Key_Down);
+    EXPECT_EQ(d.focusWidget(), zelle2);
+    Taste(*zelle2, Qt::Key_Right);
+    QWidget* zelle8 = d.focusWidget();
+    ASSERT_EQ(zelle8, Kind<QWidget>(d, QStringLiteral("ImageFarbe_8")));
+    QTest::keyClick(zelle8, Qt::Key_Space); // the space bar picks the cell
+    EXPECT_EQ(d.Werk().Color1, s.Farbtabelle(8));
+    EXPECT_NE(d.Werk().Color1, s.Schriftliste(1).Color1);
+    Taste(*zelle8, Qt::Key_Up);
+    EXPECT_EQ(d.focusWidget(), zelle7);
+    EXPECT_NE(zelle7->focusPolicy() & Qt::TabFocus, 0); // Tab comes back to it
+    EXPECT_EQ(zelle1->focusPolicy() & Qt::TabFocus, 0);
 }
 
 TEST(FrmLinie, EveryKindOfControlWritesTheCopyAndRepaints) {

@@ -42,6 +42,27 @@ TEST(ImageCanvas, RechteckDecktBisVorDieRechteUntereKante) {
     EXPECT_EQ(Tinte(b), QRect(10, 10, 10, 5));
 }
 
+// The device orders a box's corners itself: given right to left or bottom to top it is the same
+// box, down to a bar one pixel across, as the shape renderer's bottom and right rules give them.
+TEST(ImageCanvas, VertauschteEckenGebenDenselbenKasten) {
+    for (const QRect k : {QRect(QPoint(10, 10), QPoint(20, 15)), QRect(QPoint(10, 10), QPoint(30, 11)),
+                          QRect(QPoint(10, 10), QPoint(11, 30))}) {
+        ImageCanvas richtig(QSize(40, 40)), verkehrt(QSize(40, 40));
+        for (ImageCanvas* c : {&richtig, &verkehrt}) {
+            c->ForeColor = Blau;
+            c->FillColor = Rot;
+            c->FillStyle = 0;
+        }
+        richtig.Rectangle(k.left(), k.top(), k.right(), k.bottom());
+        verkehrt.Rectangle(k.right(), k.bottom(), k.left(), k.top());
+        EXPECT_FALSE(Tinte(richtig.Bild()).isEmpty()) << k.width() << "x" << k.height();
+        EXPECT_EQ(verkehrt.Bild(), richtig.Bild()) << k.width() << "x" << k.height();
+        richtig.Ellipse(k.left(), k.top(), k.right(), k.bottom());
+        verkehrt.Ellipse(k.right(), k.top(), k.left(), k.bottom());
+        EXPECT_EQ(verkehrt.Bild(), richtig.Bild()) << "Ellipse " << k.width() << "x" << k.height();
+    }
+}
+
 TEST(ImageCanvas, HohlerPinselUndGefuellteKastenlinie) {
     ImageCanvas c(QSize(40, 40));
     c.ForeColor = Blau;
