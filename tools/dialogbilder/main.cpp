@@ -62,6 +62,7 @@ int main(int argc, char** argv) {
     form.ShadowType = 1;
     form.ShadowAngle = 315;
     zp::FrmLinie linie(s, form);
+    linie.SeiteWaehlen(3);
 
     const bool ok = Aufnehmen(schrift, ziel.filePath(QStringLiteral("dialog-schrift.png"))) &&
                     Aufnehmen(linie, ziel.filePath(QStringLiteral("dialog-linie.png")));
