@@ -149,4 +149,22 @@ QImage LinieVorschaubild(AppState& s, const ClassLinie& linie, QSize pixel) {
     return Vorschau(s, pixel, [&](Canvas& box, ClassRahmen& r) { ZeichneLinie(s, box, s.AktuelleLinie, r); });
 }
 
+QImage LinieInGroesse(AppState& s, const ClassLinie& linie, QSizeF groesse, QSize pixel) {
+    s.AktuelleLinie = linie;
+    const double g = s.Geraetefaktor > 0 ? s.Geraetefaktor : TwipsJeZehntelmm;
+    return Vorschau(s, pixel, [&](Canvas& box, ClassRahmen& r) {
+        // The page's frame at its true size, or shrunk as a whole until it fits, centred; a thin
+        // line keeps two pixels so that it doesn't vanish.
+        const double w = std::max(1.0, groesse.width()), h = std::max(1.0, groesse.height());
+        const double faktor = std::min({1.0, r.Breite / w, r.Höhe / h});
+        const double mindest = 2 * kTwipsProPixel / g;
+        const double breite = std::max(mindest, w * faktor), hoehe = std::max(mindest, h * faktor);
+        r.X += (r.Breite - breite) / 2;
+        r.Y += (r.Höhe - hoehe) / 2;
+        r.Breite = breite;
+        r.Höhe = hoehe;
+        ZeichneLinie(s, box, s.AktuelleLinie, r);
+    });
+}
+
 } // namespace zp

@@ -7,6 +7,7 @@
 #include <QImage>
 #include <QRectF>
 #include <QSize>
+#include <QSizeF>
 #include <vector>
 
 namespace zp {
@@ -17,6 +18,11 @@ struct AppState;
 // is drawn with Vorschaumodus on, which is off again afterwards. The list objects stay as they are.
 [[nodiscard]] QImage SchriftVorschaubild(AppState& s, const ClassSchrift& schrift, QSize pixel);
 [[nodiscard]] QImage LinieVorschaubild(AppState& s, const ClassLinie& linie, QSize pixel);
+
+// The shape in a frame of `groesse` (tenths of a millimetre), as the page has it: at its true size
+// where it fits the box less the margin, else shrunk keeping its proportions, centred. A line of
+// the page stays a line rather than filling the box.
+[[nodiscard]] QImage LinieInGroesse(AppState& s, const ClassLinie& linie, QSizeF groesse, QSize pixel);
 
 // What the page draws under a template text: a shape in its frame (tenths of a millimetre).
 struct Grundform {

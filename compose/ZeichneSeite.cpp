@@ -264,7 +264,10 @@ void ZeichneSeite(AppState& s, Zeichenziele& ziele) {
 
     // 8. Frames by stacking order, the outlines repainted in every pass.
     const int anzahl = static_cast<int>(std::clamp(s.RahmenAnzahl, 0.0, double(s.Rahmenliste.Obergrenze())));
-    const bool umrisse = !drucken && An(s.RahmenAnzeigen) && seite;
+    // While the calendar's template is edited every frame shows its outline, so that a frame that
+    // draws nothing at the moment (an empty title, a week number off Monday) can still be found.
+    const bool vorlage = An(s.IstKalender) && An(s.KalenderBearbeiten);
+    const bool umrisse = !drucken && (An(s.RahmenAnzeigen) || vorlage) && seite;
     for (int z = 1; z <= anzahl; ++z) {
         for (int n = 1; n <= anzahl; ++n) {
             ClassRahmen& r = s.Rahmenliste(n);

@@ -9,7 +9,6 @@
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QComboBox>
-#include <QFormLayout>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -48,11 +47,13 @@ FrmFeiertage::FrmFeiertage(AppState& state, Oberflaeche& ui, QWidget* parent)
         return static_cast<Farbe>(c.red() | (c.green() << 8) | (c.blue() << 16));
     };
 
+    // The holidays and the colours they are drawn in on the left, the week count, birthdays, names
+    // and the preview on the right: two columns of about the same height, no empty corner.
     auto* links = new QVBoxLayout;
     links->addWidget(Feiertagsgruppe());
-    links->addStretch(); // the group keeps its own height beside the taller right column
+    links->addWidget(Farbgruppe());
+    links->addStretch();
     auto* rechts = new QVBoxLayout;
-    rechts->addWidget(Farbgruppe());
     rechts->addWidget(Wochengruppe());
     rechts->addWidget(Namensgruppe());
     m_vorschau = Benannt<QLabel>(QStringLiteral("PictureVorschau"), this);
@@ -141,11 +142,18 @@ void FrmFeiertage::FarbfeldZeigen(QToolButton* feld, Farbe farbe) {
 
 QWidget* FrmFeiertage::Farbgruppe() {
     auto* gruppe = new QGroupBox(QStringLiteral("Farbeinstellungen"), this);
-    auto* f = new QFormLayout(gruppe);
-    f->addRow(QStringLiteral("Samstag"), Farbfeld("PictureSamstag", &Optionenwahl::samstag));
-    f->addRow(QStringLiteral("Sonntag"), Farbfeld("PictureSonntag", &Optionenwahl::sonntag));
-    f->addRow(QStringLiteral("Feiertag"), Farbfeld("PictureFeiertag", &Optionenwahl::feiertag));
-    f->addRow(QStringLiteral("Termin"), Farbfeld("Picturetermin", &Optionenwahl::termin));
+    // Two pairs a row, in the columns of the holiday boxes above.
+    auto* g = new QGridLayout(gruppe);
+    const auto zeile = [&](int r, int c, const char* titel, const char* name, Farbe Optionenwahl::*farbe) {
+        g->addWidget(new QLabel(QString::fromUtf8(titel), gruppe), r, 2 * c);
+        g->addWidget(Farbfeld(name, farbe), r, 2 * c + 1);
+    };
+    zeile(0, 0, "Samstag", "PictureSamstag", &Optionenwahl::samstag);
+    zeile(0, 1, "Sonntag", "PictureSonntag", &Optionenwahl::sonntag);
+    zeile(1, 0, "Feiertag", "PictureFeiertag", &Optionenwahl::feiertag);
+    zeile(1, 1, "Termin", "Picturetermin", &Optionenwahl::termin);
+    g->setColumnStretch(1, 1);
+    g->setColumnStretch(3, 1);
     return gruppe;
 }
 
@@ -169,7 +177,7 @@ QWidget* FrmFeiertage::Wochengruppe() {
     m_geburtstage = Benannt<QLabel>(QStringLiteral("LabelGeburtstage"), gruppe);
     m_geburtstage->setWordWrap(true);
     // Room for the count from the start, so that the dialog's rows don't move when it comes.
-    m_geburtstage->setMinimumHeight(5 * m_geburtstage->fontMetrics().lineSpacing());
+    m_geburtstage->setMinimumHeight(3 * m_geburtstage->fontMetrics().lineSpacing());
     m_geburtstage->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     v->addWidget(knopf);
     v->addWidget(m_geburtstage);

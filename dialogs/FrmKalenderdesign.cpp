@@ -123,7 +123,11 @@ void FrmKalenderdesign::KopienNehmen() {
             const ClassRahmen& r = s.Rahmenliste(k);
             m_textrahmen[i] = QRectF(r.X, r.Y, r.Breite, r.Höhe);
         }
-        if (m_formDa[i]) m_formen[i] = s.Linienliste(k);
+        if (m_formDa[i]) {
+            m_formen[i] = s.Linienliste(k);
+            const ClassRahmen& r = s.Rahmenliste(31 + k);
+            m_formgroesse[i] = QSizeF(r.Breite, r.Höhe);
+        }
     }
 }
 
@@ -153,7 +157,8 @@ void FrmKalenderdesign::VorschauenZeichnen() {
             m_picture1[i]->clear();
         }
         if (m_formDa[i])
-            m_picture2[i]->setPixmap(QPixmap::fromImage(LinieVorschaubild(s, m_formen[i], kBox)));
+            m_picture2[i]->setPixmap(
+                QPixmap::fromImage(LinieInGroesse(s, m_formen[i], m_formgroesse[i], kBox)));
         else
             m_picture2[i]->clear();
 

@@ -8,6 +8,7 @@
 
 #include <QDialog>
 #include <QRectF>
+#include <QSizeF>
 #include <array>
 #include <functional>
 
@@ -53,7 +54,8 @@ private:
     // Copies of the roles' objects that the previews draw; taken again after each Ok.
     std::array<ClassSchrift, 7> m_texte{};
     std::array<ClassLinie, 7> m_formen{};
-    std::array<QRectF, 7> m_textrahmen{}; // the text frames on the page, in which the texts are set
+    std::array<QRectF, 7> m_textrahmen{};  // the text frames on the page, in which the texts are set
+    std::array<QSizeF, 7> m_formgroesse{}; // the shape frames' sizes on the page
     std::array<bool, 7> m_textDa{}, m_formDa{};
 };
 

@@ -76,7 +76,8 @@ QString Bilanztext(const Geburtstagsbilanz& b) {
     if (b.inZukunft > 0)
         text +=
             QStringLiteral(" %1 mit einem Geburtsjahr nach dem Kalenderjahr ausgelassen.").arg(b.inZukunft);
-    if (b.unmoeglich > 0) text += QStringLiteral(" %1 ungültige Daten ausgelassen.").arg(b.unmoeglich);
+    if (b.unmoeglich == 1) text += QStringLiteral(" 1 ungültiges Datum ausgelassen.");
+    if (b.unmoeglich > 1) text += QStringLiteral(" %1 ungültige Daten ausgelassen.").arg(b.unmoeglich);
     return text;
 }
 

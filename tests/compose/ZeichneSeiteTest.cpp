@@ -128,6 +128,23 @@ TEST(ZeichneSeite, VerborgeneRahmenOhneInhaltUndOhneUmriss) {
     EXPECT_EQ(umrisse, 3 * 2);
 }
 
+TEST(ZeichneSeite, KalendervorlageZeigtBeimBearbeitenJedenRahmen) {
+    const auto umrisse = [](bool bearbeiten) {
+        Seite p;
+        p.s.IstKalender = -1;
+        p.s.Kalendertyp = 4;
+        p.s.Kalenderjahr = 2027;
+        p.s.KalenderBearbeiten = bearbeiten ? -1 : 0;
+        p.Zeichne();
+        int n = 0;
+        for (const CanvasAufruf& x : p.bild.Aufrufe)
+            n += IstUmriss(x);
+        return n;
+    };
+    EXPECT_EQ(umrisse(false), 0);
+    EXPECT_EQ(umrisse(true), 3 * 3); // every frame, in each of the three passes
+}
+
 TEST(ZeichneSeite, PaneltexteHolenIhreRahmenZurueck) {
     Seite p;
     p.s.Rahmenliste.RedimPreserve(31);

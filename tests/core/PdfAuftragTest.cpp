@@ -62,5 +62,31 @@ TEST(PdfDruck, NurEinGanzerAuftragNimmtDenNamenDerDatei) {
     EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files), QStringList{"etiketten.pdf"});
 }
 
+TEST(PdfDruck, KalenderDrucktSeineTageAuchBeimBearbeitenDerVorlage) {
+    if (!PopplerDa()) GTEST_SKIP() << "poppler-utils fehlen";
+    QTemporaryDir dir;
+    QString fehler;
+    ASSERT_TRUE(RichteProgrammordnerEin(dir.filePath("ordner"), "Kalender", ZP_DATEN_DIR, &fehler));
+    AppState s;
+    ProtokollOberflaeche ui;
+    Main(s, dir.filePath("ordner"), ui);
+    LadeStartzustand(s, ui);
+    s.LadeSperre = 0;
+    s.KalenderBearbeiten = -1; // the template stands once on the screen
+    Druckdialogwerte w;
+    w.Drucker = kPdfDatei;
+    w.PdfDatei = dir.filePath("kalender.pdf");
+    w.Kopien = "1";
+    w.TextDruckStart = "1";
+    w.TextDruckEnde = "1";
+    w.TextProzent = "100";
+    ASSERT_EQ(BefehlDrucken(s, ui, w, {}), Druckergebnis::Gedruckt);
+    const QString text = Ausgabe("pdftotext", {w.PdfDatei, "-"});
+    // The 28th of each of the half year's six months, not the template's one cell; the screen's
+    // mode is kept.
+    EXPECT_GE(text.count(QStringLiteral("28")), 6) << text.toStdString();
+    EXPECT_EQ(s.KalenderBearbeiten, -1);
+}
+
 } // namespace
 } // namespace zp::test

@@ -125,7 +125,7 @@ TEST(FrmFeiertage, BirthdaysFromAPickedFileAreCounted) {
     FrmFeiertage d(s, ui);
     Kind<QPushButton>(d, "CommandGeburtstage")->click();
     EXPECT_EQ(Kind<QLabel>(d, "LabelGeburtstage")->text(),
-              u"1 Geburtstag übernommen. 1 ungültige Daten ausgelassen.");
+              u"1 Geburtstag übernommen. 1 ungültiges Datum ausgelassen.");
     EXPECT_EQ(s.Termine(3, 7), u"Urlaub\r\nEva (37)");
     EXPECT_GE(ui.neuzeichnen, 1);
 }
@@ -145,6 +145,18 @@ TEST(FrmKalenderdesign, RowsPreviewsAndTheHookOfTheEditDialogs) {
             const QString name = QStringLiteral("Picture1_%1").arg(i);
             EXPECT_FALSE(ohne.findChild<QLabel*>(name)->pixmap().isNull()) << i;
         }
+        // The title frame of Monat 1 is a thin rule under the title: the preview shows a rule, not
+        // a filled box.
+        const QImage titel = Kind<QLabel>(ohne, "Picture2_1")->pixmap().toImage();
+        int dunkleZeilen = 0;
+        for (int y = 0; y < titel.height(); ++y) {
+            bool dunkel = false;
+            for (int x = 0; x < titel.width(); ++x)
+                dunkel = dunkel || QColor(titel.pixel(x, y)).lightness() < 128;
+            dunkleZeilen += dunkel ? 1 : 0;
+        }
+        EXPECT_GE(dunkleZeilen, 1);
+        EXPECT_LE(dunkleZeilen, 4);
         tabs->setCurrentIndex(1);
         Kind<QPushButton>(ohne, "CommandOk")->click();
         EXPECT_EQ(ohne.result(), QDialog::Accepted);

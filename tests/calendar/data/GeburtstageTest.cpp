@@ -71,7 +71,9 @@ TEST(GeburtstageEintragen, AgesAppendedLinesAndLeftOutDates) {
     EXPECT_EQ(b.inZukunft, 1);
     EXPECT_EQ(b.unmoeglich, 1);
     EXPECT_EQ(Bilanztext(b), u"5 Geburtstage übernommen. 1 mit einem Geburtsjahr nach dem Kalenderjahr "
-                             u"ausgelassen. 1 ungültige Daten ausgelassen.");
+                             u"ausgelassen. 1 ungültiges Datum ausgelassen.");
+    EXPECT_EQ(Bilanztext({1, 2, 0, 3}),
+              u"1 Geburtstag übernommen. 2 standen schon im Kalender. 3 ungültige Daten ausgelassen.");
 
     // Taken a second time, nothing is doubled.
     const Geburtstagsbilanz wieder = GeburtstageEintragen(s, db);
