@@ -40,12 +40,34 @@ void SetzeMassstab(AppState& s) {
     if (An(s.ExportAktiv)) s.Zeichenfaktor = s.ZoomExport;
 }
 
-// Step 5: a colour or picture background over the whole label, then the design band.
-void ZeichneEtikettHintergrund(AppState& s, Canvas& ziel) {
+// A round label (a CD label, round stickers): `Form` 1 in the label or CD edition.
+bool RundesEtikett(const AppState& s) {
+    return s.AktuellesEtikett.Form == 1 && (An(s.IstEtikett) || An(s.IstCDHuelle));
+}
+
+// The circle of a round label as a clip region of the target, in its device pixels (regions are
+// not moved by the window origin, which walks from label to label on the printer).
+GdiHandle Etikettenkreis(const AppState& s, Canvas& ziel) {
+    const ClassEtikett& e = s.AktuellesEtikett;
+    const Massstab m = ziel.Art() == CanvasArt::Drucker ? Massstab::Geraet(s) : Massstab::Zeichnung(s);
+    const double rx = m.PixelX(m.Twips(e.Breite)) / 2, ry = m.PixelY(m.Twips(e.Höhe)) / 2;
+    const QPoint ursprung = ziel.WindowOrg();
+    constexpr int ecken = 360;
+    std::vector<QPoint> punkte;
+    punkte.reserve(ecken);
+    for (int i = 0; i < ecken; ++i) {
+        const double w = 2 * M_PI * i / ecken;
+        punkte.emplace_back(gdi::Lng(std::lround(rx + rx * std::cos(w))) - ursprung.x(),
+                            gdi::Lng(std::lround(ry + ry * std::sin(w))) - ursprung.y());
+    }
+    return ziel.CreatePolygonRgn(punkte, PolyFillMode::Alternate);
+}
+
+// Step 5a and b: the background proper, as a work shape or a work picture over the label.
+void ZeichneEtikettFlaeche(AppState& s, Canvas& ziel, bool rund) {
     const ClassEtikett& e = s.AktuellesEtikett;
     const int F = e.Farbüberlauf;
     const int M = e.Muster;
-    if (F < 1) return;
     ClassRahmen& r = s.AktuellerRahmen;
     r.X = r.Y = 0;
     r.Breite = e.Breite;
@@ -61,13 +83,31 @@ void ZeichneEtikettHintergrund(AppState& s, Canvas& ziel) {
         l.Color1 = e.Farbe1;
         l.Color2 = F < 2 ? e.Farbe1 : e.Farbe2;
         l.ColorCircle = static_cast<int16_t>(std::clamp(F - 1, -32768, 32767));
-        l.Form = 16;
+        l.Form = rund ? 18 : 16;
         l.Füllung = -1;
         l.Stärke = 0;
         l.ShadowDeep = 0;
         ZeichneLinie(s, ziel, l, r);
     }
+}
+
+// Step 5: a colour or picture background over the whole label, then the design band. A round
+// label keeps both inside its circle, so that no colour goes onto the sheet around it: a colour
+// or gradient is drawn as the ellipse shape, a picture and the design through the circle's clip.
+void ZeichneEtikettHintergrund(AppState& s, Canvas& ziel) {
+    const ClassEtikett& e = s.AktuellesEtikett;
+    const int F = e.Farbüberlauf;
+    if (F < 1) return;
+    const bool rund = RundesEtikett(s);
+    const GdiHandle kreis = rund ? Etikettenkreis(s, ziel) : 0;
+    if (kreis) ziel.SelectClipRgn(kreis);
+    ZeichneEtikettFlaeche(s, ziel, rund);
+    if (kreis) ziel.SelectClipRgn(kreis); // a gradient leaves the clip off behind it
     ZeichneKartendesign(s, ziel, e.Breite, e.Höhe, e.Designbreite, e);
+    if (kreis) {
+        ziel.SelectClipRgn(0);
+        ziel.DeleteObject(kreis);
+    }
 }
 
 // Step 6: margins, the address window, fold and punch marks, and the grid (page picture only).

@@ -426,6 +426,9 @@ void PainterCanvas::ClipSetzen(const std::optional<Clipflaeche>& clip) {
         p.setClipping(false);
         return;
     }
+    // Switched on first: the raster painter, its clip switched off, takes a region equal to its
+    // former one as no change and goes on drawing unclipped.
+    p.setClipping(true);
     // The clip lies in device pixels; the painter's coordinates are moved by the window origin.
     if (clip->IstLeer())
         p.setClipRect(QRect(m_ursprung.x() - 4, m_ursprung.y() - 4, 1, 1)); // outside: draws nothing

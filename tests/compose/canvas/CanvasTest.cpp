@@ -114,6 +114,21 @@ TEST(ImageCanvas, LeereRegionLaesstNichtsDurch) {
     EXPECT_TRUE(Tinte(c.Bild()).isEmpty());
 }
 
+// A region selected again after the clip was taken off clips as it did the first time: a round
+// label's circle is selected again after a gradient has switched its own clip off.
+TEST(ImageCanvas, DieselbeRegionNachAbgeschaltetemClipSchneidetWieder) {
+    ImageCanvas c(QSize(100, 100));
+    const GdiHandle dreieck = c.CreatePolygonRgn({{0, 100}, {100, 0}, {100, 100}}, PolyFillMode::Alternate);
+    c.SelectClipRgn(dreieck);
+    c.SelectClipRgn(0);
+    c.SelectClipRgn(dreieck);
+    c.FillStyle = 0;
+    c.FillColor = c.ForeColor = 0xFF0000;
+    c.Rectangle(0, 0, 100, 100);
+    EXPECT_EQ(c.Bild().pixel(5, 5), qRgb(255, 255, 255)); // outside the triangle
+    EXPECT_EQ(c.Bild().pixel(95, 95), qRgb(0, 0, 255));
+}
+
 TEST(ImageCanvas, TextzelleHaengtAmPunktUndDrehtGegenDenUhrzeigersinn) {
     ImageCanvas c(QSize(300, 300));
     LogFont lf;
