@@ -212,6 +212,11 @@ void HintergrundartGewaehlt(AppState& s, int option) {
     if (art == 4 && s.EtikettKopie.Muster < 1) s.EtikettKopie.Muster = 1;
 }
 
+void DesignGewaehlt(AppState& s, int design) {
+    s.EtikettKopie.Design = design;
+    if (design > 0 && s.EtikettKopie.Farbe3 == 0xFFFFFF) s.EtikettKopie.Farbe3 = Designfarbe;
+}
+
 bool SeiteUebernehmen(AppState& s, Oberflaeche& ui, const Seitendialogwerte& w) {
     const std::optional<double> rasterX = basic::ParseDouble(w.Textrasterx);
     const std::optional<double> rasterY = basic::ParseDouble(w.Textrastery);

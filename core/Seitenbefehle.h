@@ -66,6 +66,11 @@ void RandGetippt(AppState& s, Seitenrand rand, const QString& text);
 [[nodiscard]] int HintergrundartVonOption(int option);
 [[nodiscard]] int OptionVonHintergrundart(int art);
 void HintergrundartGewaehlt(AppState& s, int option);
+// The colour the row of small pictures shows the design bands in while the design colour is white.
+constexpr int32_t Designfarbe = 0x804000; // a dark blue, 0x00BBGGRR
+// A design band chosen (0 none, 1 to 13). A sheet's design colour starts white, in which a band
+// would not show on a white card: the band then takes the colour its small picture showed.
+void DesignGewaehlt(AppState& s, int design);
 
 // The values of the boxes that only Ok reads.
 struct Seitendialogwerte {

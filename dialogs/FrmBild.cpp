@@ -4,6 +4,7 @@
 #include "core/state/AppState.h"
 #include "core/state/Oberflaeche.h"
 #include "render/Bildwerk.h"
+#include "render/Lead.h"
 
 #include <QCheckBox>
 #include <QDir>
@@ -11,6 +12,7 @@
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -19,14 +21,11 @@
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QVBoxLayout>
+#include <functional>
 
 namespace zp {
 
 namespace {
-
-// The file kinds the picture pipeline reads on this system.
-const QStringList Bildmuster{QStringLiteral("*.bmp"), QStringLiteral("*.jpg"), QStringLiteral("*.jpeg"),
-                             QStringLiteral("*.png"), QStringLiteral("*.pcx"), QStringLiteral("*.wmf")};
 
 const char* const Reglernamen[BildreglerAnzahl] = {
     "Helligkeit", "Kontrast", "Farbverschiebung", "Farbintensität", "Schärfe", "Zusätzliche Pixel", "Mosaik"};
@@ -34,6 +33,31 @@ const char* const Reglernamen[BildreglerAnzahl] = {
 template <typename W> W* Benannt(W* w, const QString& name) {
     w->setObjectName(name);
     return w;
+}
+
+// Return and Enter in `box` run `tun` and go no further. A line edit passes these keys on to its
+// dialog, which would take them as a press of its default button.
+class EingabeFilter : public QObject {
+public:
+    EingabeFilter(QLineEdit* box, std::function<void()> tun) : QObject(box), m_tun(std::move(tun)) {
+        box->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject* o, QEvent* e) override {
+        if (e->type() != QEvent::KeyPress) return QObject::eventFilter(o, e);
+        const int taste = static_cast<QKeyEvent*>(e)->key();
+        if (taste != Qt::Key_Return && taste != Qt::Key_Enter) return false;
+        m_tun();
+        return true;
+    }
+
+private:
+    std::function<void()> m_tun;
+};
+
+void EingabeBleibt(QLineEdit* box, std::function<void()> tun) {
+    new EingabeFilter(box, std::move(tun));
 }
 
 } // namespace
@@ -104,7 +128,10 @@ QWidget* FrmBild::SeiteDatei() {
     l->addLayout(ordner);
     m_file1 = Benannt(new QListWidget(w), QStringLiteral("File1"));
     l->addWidget(m_file1, 1);
-    l->addWidget(new QLabel(QStringLiteral("Unterstützte Formate: *.bmp, *.jpg, *.png, *.pcx, *.wmf"), w));
+    // The kinds of file the picture library of this system reads, not a fixed list.
+    auto* formate = Benannt(new QLabel(QStringLiteral("Unterstützte Formate: ") + BildmusterText(), w),
+                            QStringLiteral("LabelFormate"));
+    l->addWidget(formate);
     m_check1 = Benannt(new QCheckBox(QStringLiteral("Graustufen"), w), QStringLiteral("Check1"));
     m_check2 = Benannt(new QCheckBox(QStringLiteral("Invertiert"), w), QStringLiteral("Check2"));
     m_check1->setChecked(m_bild.Gray != 0);
@@ -115,7 +142,12 @@ QWidget* FrmBild::SeiteDatei() {
     const QFileInfo datei(m_bild.File);
     OrdnerZeigen(m_bild.File.isEmpty() ? (m_bild.File_Path.isEmpty() ? QDir::homePath() : m_bild.File_Path)
                                        : datei.absolutePath());
-    connect(m_dir1, &QLineEdit::editingFinished, this, [this] { OrdnerZeigen(m_dir1->text()); });
+    // Return in the path box takes the path and leaves the dialog open: without this the dialog's
+    // default button would take it as Ok and, with no file chosen yet, delete the new frame.
+    EingabeBleibt(m_dir1, [this] { PfadGetippt(); });
+    connect(m_dir1, &QLineEdit::editingFinished, this, [this] {
+        if (!m_fuellen && QDir(m_dir1->text()) != QDir(m_file1->property("ordner").toString())) PfadGetippt();
+    });
     connect(m_file1, &QListWidget::itemActivated, this, [this](QListWidgetItem* eintrag) {
         DateiGewaehlt(QDir(m_dir1->text()).filePath(eintrag->text()));
     });
@@ -125,7 +157,7 @@ QWidget* FrmBild::SeiteDatei() {
     connect(drive1, &QPushButton::clicked, this, [this] {
         const QString pfad = QFileDialog::getOpenFileName(
             this, QStringLiteral("Bilddatei"), m_dir1->text(),
-            QStringLiteral("Bilder (%1);;Alle Dateien (*)").arg(Bildmuster.join(u' ')));
+            QStringLiteral("Bilder (%1);;Alle Dateien (*)").arg(Bildmuster().join(u' ')));
         if (!pfad.isEmpty()) DateiGewaehlt(pfad);
     });
     connect(m_check1, &QCheckBox::toggled, this, [this](bool an) {
@@ -207,23 +239,42 @@ QWidget* FrmBild::SeiteDrehen() {
         m_fuellen = false;
         VorschauNeu();
     });
-    connect(m_text1, &QLineEdit::editingFinished, this, [this] {
-        if (m_fuellen) return;
-        const QString zeigt = WinkelGetippt(m_bild, m_text1->text());
-        m_fuellen = true;
-        if (zeigt != m_text1->text()) m_text1->setText(zeigt);
-        m_slider2->setValue(m_bild.Rotate / 100);
-        m_fuellen = false;
-        VorschauNeu();
-    });
+    EingabeBleibt(m_text1, [this] { WinkelUebernehmen(); });
+    connect(m_text1, &QLineEdit::editingFinished, this, &FrmBild::WinkelUebernehmen);
     return w;
+}
+
+void FrmBild::WinkelUebernehmen() {
+    if (m_fuellen) return;
+    const QString zeigt = WinkelGetippt(m_bild, m_text1->text());
+    m_fuellen = true;
+    if (zeigt != m_text1->text()) m_text1->setText(zeigt);
+    m_slider2->setValue(m_bild.Rotate / 100);
+    m_fuellen = false;
+    VorschauNeu();
+}
+
+// A folder typed shows its pictures; a file typed is chosen as if clicked in the list.
+void FrmBild::PfadGetippt() {
+    const QString pfad = m_dir1->text().trimmed();
+    const QFileInfo info(pfad);
+    if (info.isDir()) {
+        OrdnerZeigen(info.absoluteFilePath());
+    } else if (info.isFile()) {
+        DateiGewaehlt(info.absoluteFilePath());
+    } else {
+        m_ui.Meldung(QStringLiteral("Den Ordner oder die Datei \"%1\" gibt es nicht.").arg(pfad),
+                     QStringLiteral("Hinweis"));
+        m_dir1->setText(m_file1->property("ordner").toString());
+    }
 }
 
 void FrmBild::OrdnerZeigen(const QString& ordner) {
     m_dir1->setText(ordner);
+    m_file1->setProperty("ordner", ordner);
     m_file1->clear();
     QDir d(ordner);
-    d.setNameFilters(Bildmuster);
+    d.setNameFilters(Bildmuster());
     d.setFilter(QDir::Files | QDir::Readable);
     d.setSorting(QDir::Name | QDir::IgnoreCase);
     m_file1->addItems(d.entryList());

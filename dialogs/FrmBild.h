@@ -53,6 +53,8 @@ private:
     QWidget* SeiteDrehen();
     QSlider* Regler(const QString& name, int von, int bis, int wert);
     void OrdnerZeigen(const QString& ordner);
+    void PfadGetippt();       // Return in `Dir1`
+    void WinkelUebernehmen(); // `Text1` left or Return in it
     void VorschauNeu();
 
     AppState& s;

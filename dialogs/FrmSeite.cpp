@@ -23,6 +23,7 @@
 #include <QTabBar>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <cmath>
 
 namespace zp {
 
@@ -334,9 +335,9 @@ void FrmSeite::BogenNeu() {
     const double breite = std::max(1, seite.Breite);
     const double hoehe = std::max(1, seite.Höhe);
     const double einheit = std::max(breite, hoehe) / (Bogenkante - 1); // tenths of a mm per pixel
-    // One pixel more than the sheet, so that its right and bottom edge stand inside the picture.
-    const QSize pixel(std::max(1, static_cast<int>(breite / einheit)) + 1,
-                      std::max(1, static_cast<int>(hoehe / einheit)) + 1);
+    // One pixel more than the sheet, rounded up, so that its right and bottom edge stand inside.
+    const QSize pixel(std::max(1, static_cast<int>(std::ceil(breite / einheit))) + 1,
+                      std::max(1, static_cast<int>(std::ceil(hoehe / einheit))) + 1);
     ImageCanvas box(pixel, CanvasArt::Vorschau, einheit, einheit);
     ZeichneEtikettenbogen(box, seite, s.EtikettKopie);
     m_bogenbild = box.Bild();

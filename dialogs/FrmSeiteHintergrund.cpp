@@ -6,6 +6,7 @@
 #include "core/state/AppState.h"
 #include "core/state/Oberflaeche.h"
 #include "render/Hintergrundvorschau.h"
+#include "render/Lead.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -132,7 +133,7 @@ QGroupBox* FrmSeite::FarbenGruppe() {
     connect(command4, &QPushButton::clicked, this, [this] {
         const QString pfad = QFileDialog::getOpenFileName(
             this, QStringLiteral("Bilddatei"), QFileInfo(s.EtikettKopie.Bilddatei).absolutePath(),
-            QStringLiteral("Bilder (*.bmp *.jpg *.jpeg *.png *.pcx *.wmf);;Alle Dateien (*)"));
+            QStringLiteral("Bilder (%1);;Alle Dateien (*)").arg(Bildmuster().join(u' ')));
         if (pfad.isEmpty()) return;
         s.EtikettKopie.Bilddatei = pfad;
         s.SeiteKopie.BackBilddatei = pfad;
@@ -201,7 +202,9 @@ void FrmSeite::HintergrundVerbinden() {
     });
     connect(m_design, &QListWidget::currentRowChanged, this, [this](int zeile) {
         if (m_fuellen || zeile < 0) return;
-        s.EtikettKopie.Design = zeile;
+        const Farbe vorher = s.EtikettKopie.Farbe3;
+        DesignGewaehlt(s, zeile);
+        if (s.EtikettKopie.Farbe3 != vorher) FarbfelderZeigen();
         KarteNeu();
     });
     connect(m_designgroesse, &QSlider::valueChanged, this, [this](int wert) {
@@ -254,7 +257,7 @@ void FrmSeite::MusterUndDesignsZeigen() {
         m_muster->item(i)->setIcon(QIcon(QPixmap::fromImage(box.Bild())));
         m_muster->item(i)->setToolTip(QStringLiteral("Muster %1").arg(i + 1));
     }
-    const Farbe designfarbe = s.EtikettKopie.Farbe3 == 0xFFFFFF ? 0x804000 : s.EtikettKopie.Farbe3;
+    const Farbe designfarbe = s.EtikettKopie.Farbe3 == 0xFFFFFF ? Designfarbe : s.EtikettKopie.Farbe3;
     for (int i = 0; i <= Designanzahl; ++i) {
         ClassEtikett e;
         e.Farbüberlauf = 1;

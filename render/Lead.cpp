@@ -112,6 +112,27 @@ struct Lead::Daten {
     }
 };
 
+QStringList Bildmuster() {
+    MagickStarten();
+    QStringList muster;
+    for (const char* endung : {"bmp", "jpg", "jpeg", "png", "pcx", "wmf"}) {
+        bool lesbar = false;
+        try {
+            lesbar = Magick::CoderInfo(QByteArray(endung).toUpper().toStdString()).isReadable();
+        } catch (const Magick::Exception&) {
+            // no such coder in this build of the library
+        }
+        if (lesbar) muster << QStringLiteral("*.") + QLatin1String(endung);
+    }
+    return muster;
+}
+
+QString BildmusterText() {
+    QStringList muster = Bildmuster();
+    muster.removeAll(QStringLiteral("*.jpeg"));
+    return muster.join(QStringLiteral(", "));
+}
+
 Lead::Lead() : d(std::make_unique<Daten>()) {}
 Lead::~Lead() = default;
 

@@ -17,6 +17,7 @@
 #include <QImage>
 #include <QRectF>
 #include <QString>
+#include <QStringList>
 #include <memory>
 #include <stdexcept>
 
@@ -30,6 +31,12 @@ public:
 private:
     QString m_text;
 };
+
+// The picture files the control reads on this system, as name patterns: "*.bmp", "*.jpg", "*.jpeg"
+// and "*.png" always, "*.pcx" and "*.wmf" where the picture library has a reader for them.
+[[nodiscard]] QStringList Bildmuster();
+// The same for the dialogs' label: "*.bmp, *.jpg, *.png, *.pcx, *.wmf" (".jpeg" goes with ".jpg").
+[[nodiscard]] QString BildmusterText();
 
 class Lead {
 public:

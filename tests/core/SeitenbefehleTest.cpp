@@ -141,6 +141,21 @@ TEST(Hintergrund, OptionsMapOntoTheKindsBothWays) {
     EXPECT_EQ(s.EtikettKopie.Muster, 1);
 }
 
+TEST(Hintergrund, ADesignChosenInWhiteTakesTheColourOfItsSmallPicture) {
+    AppState s;
+    ASSERT_EQ(s.EtikettKopie.Farbe3, 0xFFFFFF); // a new sheet's design colour
+    DesignGewaehlt(s, 2);
+    EXPECT_EQ(s.EtikettKopie.Design, 2);
+    EXPECT_EQ(s.EtikettKopie.Farbe3, Designfarbe);
+    s.EtikettKopie.Farbe3 = 0x0000FF; // a colour of the user's own stays
+    DesignGewaehlt(s, 5);
+    EXPECT_EQ(s.EtikettKopie.Farbe3, 0x0000FF);
+    s.EtikettKopie.Farbe3 = 0xFFFFFF; // and "no design" touches no colour
+    DesignGewaehlt(s, 0);
+    EXPECT_EQ(s.EtikettKopie.Design, 0);
+    EXPECT_EQ(s.EtikettKopie.Farbe3, 0xFFFFFF);
+}
+
 TEST(Katalogsuche, ByNameOrBySizeInMillimetres) {
     AppState s;
     s.KartenformatAnzahl = 3;

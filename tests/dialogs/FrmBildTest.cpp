@@ -1,15 +1,16 @@
 #include "dialogs/FrmBild.h"
 #include "common/Bildhilfe.h"
-#include "tests/core/state/ProtokollOberflaeche.h"
 #include "core/state/AppState.h"
 #include "core/state/Inhalt.h"
 #include "core/state/Objekte.h"
+#include "tests/core/state/ProtokollOberflaeche.h"
 
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QSlider>
 #include <QTemporaryDir>
+#include <QTest>
 #include <gtest/gtest.h>
 
 using namespace zp;
@@ -119,5 +120,44 @@ TEST_F(BildDialogTest, ADamagedFileIsToldAndLeavesThePreviewEmpty) {
     EXPECT_EQ(ui.meldungen.size(), 1);
     EXPECT_TRUE(test::IstWeiss(d.Vorschau().pixel(160, 120)));
     d.accept(); // a file that is no picture stays, as a missing picture would be passed over
+    EXPECT_EQ(s.RahmenAnzahl, 32);
+}
+
+// Return in the path or angle box takes what was typed and leaves the dialog open; only the
+// button closes it. A path that doesn't exist is told and the box shows the folder again.
+TEST_F(BildDialogTest, ReturnInABoxTakesItsTextAndKeepsTheDialogOpen) {
+    FrmBild d(s, ui, true);
+    d.show(); // the default button only answers Return while it can be seen
+    auto* pfad = Kind<QLineEdit>(d, "Dir1");
+    auto* liste = Kind<QListWidget>(d, "File1");
+    ASSERT_TRUE(pfad && liste);
+    const QString vorher = pfad->text();
+
+    pfad->setText(ordner.path());
+    QTest::keyClick(pfad, Qt::Key_Return);
+    EXPECT_EQ(liste->count(), 1);
+    EXPECT_EQ(d.result(), QDialog::Rejected); // not closed by Ok
+    EXPECT_EQ(s.RahmenAnzahl, 32);            // and the new frame is still there
+    EXPECT_TRUE(ui.meldungen.isEmpty());
+
+    pfad->setText(QDir(ordner.path()).filePath(QStringLiteral("gibtsnicht")));
+    QTest::keyClick(pfad, Qt::Key_Enter);
+    ASSERT_EQ(ui.meldungen.size(), 1);
+    EXPECT_TRUE(ui.meldungen[0].contains(u"gibtsnicht"));
+    EXPECT_EQ(QDir(pfad->text()), QDir(ordner.path()));
+    EXPECT_NE(pfad->text(), vorher);
+
+    pfad->setText(foto); // a file typed is chosen as a click in the list chooses it
+    QTest::keyClick(pfad, Qt::Key_Return);
+    EXPECT_EQ(d.Kopie().File, foto);
+    EXPECT_FALSE(test::IstWeiss(d.Vorschau().pixel(160, 120)));
+    EXPECT_DOUBLE_EQ(d.Rahmenkopie().Höhe, d.Rahmenkopie().Breite * 300 / 400);
+
+    auto* winkel = Kind<QLineEdit>(d, "Text1");
+    winkel->setText(QStringLiteral("30"));
+    QTest::keyClick(winkel, Qt::Key_Return);
+    EXPECT_EQ(d.Kopie().Rotate, 3000);
+    EXPECT_EQ(Kind<QSlider>(d, "Slider2")->value(), 30);
+    EXPECT_EQ(d.result(), QDialog::Rejected);
     EXPECT_EQ(s.RahmenAnzahl, 32);
 }

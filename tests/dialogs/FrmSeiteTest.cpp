@@ -60,6 +60,15 @@ TEST_F(SeiteDialogTest, SheetControlsRedrawTheSheetAndOkWritesThePage) {
     EXPECT_FALSE(d.Tabs()->isTabVisible(2));
     EXPECT_EQ(d.Tabs()->currentIndex(), 0);
 
+    // The paper's right and bottom edge stand inside the sheet preview.
+    {
+        const QImage bogen = d.Bogenbild();
+        auto dunkel = [&](int x, int y) { return qGray(bogen.pixel(x, y)) < 80; };
+        EXPECT_TRUE(dunkel(bogen.width() - 1, bogen.height() / 2) ||
+                    dunkel(bogen.width() - 2, bogen.height() / 2));
+        EXPECT_TRUE(dunkel(2, bogen.height() - 1) || dunkel(2, bogen.height() - 2));
+    }
+
     auto* katalog = Kind<QComboBox>(d, "ComboKartenformat");
     ASSERT_EQ(katalog->count(), 3);
     EXPECT_EQ(katalog->itemText(0), u"Vorgaben");
@@ -142,6 +151,9 @@ TEST_F(SeiteDialogTest, BackgroundControlsRedrawTheCardAndAbbruchLeavesTheSheet)
     Kind<QListWidget>(d, "PicDesign")->setCurrentRow(4);
     EXPECT_EQ(s.EtikettKopie.Design, 4);
     EXPECT_NE(d.Kartenbild(), vorher);
+    // The inner field shows in the dark blue of its small picture, not in the sheet's white.
+    const QColor mitte = d.Kartenbild().pixelColor(d.Kartenbild().rect().center());
+    EXPECT_GT(mitte.blue(), mitte.red() + 60);
 
     vorher = d.Kartenbild();
     Kind<QSlider>(d, "Slider1")->setValue(300);
@@ -151,6 +163,7 @@ TEST_F(SeiteDialogTest, BackgroundControlsRedrawTheCardAndAbbruchLeavesTheSheet)
     EXPECT_EQ(s.AktuellesEtikett.Farbüberlauf, alt.Farbüberlauf);
     EXPECT_EQ(s.AktuellesEtikett.Design, alt.Design);
     EXPECT_EQ(s.AktuellesEtikett.Farbe1, alt.Farbe1);
+    EXPECT_EQ(s.AktuellesEtikett.Farbe3, alt.Farbe3);
 }
 
 TEST_F(SeiteDialogTest, CalendarLosesTheCardTab) {

@@ -320,6 +320,14 @@ TEST(MitgelieferteMuster, AtLeastTwelvePatternsLoad) {
 } // namespace
 
 namespace {
+// The dialogs list what the picture library reads here; on Debian with its ImageMagick that is
+// all five kinds of file, each of which the next test loads.
+TEST(LeadFormate, TheDialogsListTheFormatsThisSystemReads) {
+    const QStringList muster = Bildmuster();
+    EXPECT_EQ(muster, (QStringList{"*.bmp", "*.jpg", "*.jpeg", "*.png", "*.pcx", "*.wmf"}));
+    EXPECT_EQ(BildmusterText(), u"*.bmp, *.jpg, *.png, *.pcx, *.wmf");
+}
+
 TEST(LeadFormate, TheDialogsFormatsLoad) {
     QTemporaryDir tmp;
     const QDir ordner(tmp.path());
