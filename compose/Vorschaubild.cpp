@@ -72,58 +72,93 @@ QRect Bedeckt(const QImage& frei) {
 
 } // namespace
 
+namespace {
+// Letters smaller than this (pixels, the height of what they cover) are drawn larger in the box,
+// up to kGroessteLupe times, so that a week number of six points can still be read.
+constexpr int kLesbar = 18;
+constexpr double kGroessteLupe = 3;
+} // namespace
+
 QImage SchriftAufGrund(AppState& s, const ClassSchrift& schrift, QRectF rahmen,
                        const std::vector<Grundform>& grund, QSize box) {
     box = box.expandedTo(QSize(1, 1));
     constexpr int kAussen = 240; // pixels around the text frame for a text that reaches beyond it
     const double g = s.Geraetefaktor > 0 ? s.Geraetefaktor : TwipsJeZehntelmm;
-    const double pixelJeZehntel = g / kTwipsProPixel;
-    const auto pixel = [&](double zehntel) {
-        return std::clamp(static_cast<int>(zehntel * pixelJeZehntel), 1, 3000);
+    const int rand = static_cast<int>(kRand / kTwipsProPixel) + 3;
+
+    // The page's piece around the text frame drawn at `zoom` (1 is the true size).
+    struct Stueck {
+        QImage aufWeiss, aufSchwarz, mitGrund;
+        QRect rahmen; // the text frame's pixels in the piece
     };
-    // The page's piece around the text frame; its top left corner in tenths of a millimetre.
-    const QPointF ursprung = rahmen.topLeft() - QPointF(kAussen, kAussen) / pixelJeZehntel;
-    const QSize flaeche(pixel(rahmen.width()) + 2 * kAussen, pixel(rahmen.height()) + 2 * kAussen);
-    const auto arbeitsrahmen = [&](QRectF r) {
-        ClassRahmen a;
-        a.X = r.x() - ursprung.x();
-        a.Y = r.y() - ursprung.y();
-        a.Breite = std::max(1.0, r.width());
-        a.Höhe = std::max(1.0, r.height());
-        a.Sichtbar = -1;
-        return a;
-    };
-    const auto zeichne = [&](Farbe papier, bool mitGrund) {
-        ImageCanvas bild(flaeche, CanvasArt::Vorschau, kTwipsProPixel, kTwipsProPixel);
-        Zeichenkontext kontext(s, Zeichenkontext::Art::Bildschirm, kTwipsProPixel, kTwipsProPixel);
-        kontext.SetzeFaktoren(1, g); // the true size, whatever the page's zoom
-        bild.BackColor = papier;
-        bild.Cls();
-        const Farbe farbe = s.Farbvorgabe;
-        const double winkel = s.Winkelvorgabe;
-        s.Farbvorgabe = -1; // a walk's one-shot colour belongs to the page, not to the box
-        s.Winkelvorgabe = -1;
-        if (mitGrund)
-            for (const Grundform& form : grund) {
-                s.AktuelleLinie = form.linie;
-                s.AktuellerRahmen = arbeitsrahmen(form.rahmen);
-                ZeichneLinie(s, bild, s.AktuelleLinie, s.AktuellerRahmen);
-            }
-        s.AktuelleSchrift = schrift;
-        s.AktuelleSchrift.Sichtbar = -1;
-        s.AktuellerRahmen = arbeitsrahmen(rahmen);
-        ZeichneSchrift(s, bild, s.AktuelleSchrift, s.AktuellerRahmen);
-        s.Farbvorgabe = farbe;
-        s.Winkelvorgabe = winkel;
-        return bild.Bild();
+    const auto zeichneStueck = [&](double zoom, bool mitGrund) {
+        const double pixelJeZehntel = g * zoom / kTwipsProPixel;
+        const auto pixel = [&](double zehntel) {
+            return std::clamp(static_cast<int>(zehntel * pixelJeZehntel), 1, 3000);
+        };
+        // Its top left corner in tenths of a millimetre.
+        const QPointF ursprung = rahmen.topLeft() - QPointF(kAussen, kAussen) / pixelJeZehntel;
+        const QSize flaeche(pixel(rahmen.width()) + 2 * kAussen, pixel(rahmen.height()) + 2 * kAussen);
+        const auto arbeitsrahmen = [&](QRectF r) {
+            ClassRahmen a;
+            a.X = r.x() - ursprung.x();
+            a.Y = r.y() - ursprung.y();
+            a.Breite = std::max(1.0, r.width());
+            a.Höhe = std::max(1.0, r.height());
+            a.Sichtbar = -1;
+            return a;
+        };
+        const auto zeichne = [&](Farbe papier, bool unterlage) {
+            ImageCanvas bild(flaeche, CanvasArt::Vorschau, kTwipsProPixel, kTwipsProPixel);
+            Zeichenkontext kontext(s, Zeichenkontext::Art::Bildschirm, kTwipsProPixel, kTwipsProPixel);
+            kontext.SetzeFaktoren(zoom, g);
+            bild.BackColor = papier;
+            bild.Cls();
+            const Farbe farbe = s.Farbvorgabe;
+            const double winkel = s.Winkelvorgabe;
+            s.Farbvorgabe = -1; // a walk's one-shot colour belongs to the page, not to the box
+            s.Winkelvorgabe = -1;
+            if (unterlage)
+                for (const Grundform& form : grund) {
+                    s.AktuelleLinie = form.linie;
+                    s.AktuellerRahmen = arbeitsrahmen(form.rahmen);
+                    ZeichneLinie(s, bild, s.AktuelleLinie, s.AktuellerRahmen);
+                }
+            s.AktuelleSchrift = schrift;
+            s.AktuelleSchrift.Sichtbar = -1;
+            s.AktuellerRahmen = arbeitsrahmen(rahmen);
+            ZeichneSchrift(s, bild, s.AktuelleSchrift, s.AktuellerRahmen);
+            s.Farbvorgabe = farbe;
+            s.Winkelvorgabe = winkel;
+            return bild.Bild();
+        };
+        Stueck st;
+        st.rahmen = QRect(kAussen, kAussen, pixel(rahmen.width()), pixel(rahmen.height()));
+        if (mitGrund) {
+            st.mitGrund = zeichne(0xFFFFFF, true);
+        } else {
+            st.aufWeiss = zeichne(0xFFFFFF, false);
+            st.aufSchwarz = zeichne(0, false);
+        }
+        return st;
     };
     // Where the letters are, whatever their colour; the frame itself for a text that draws nothing.
-    QRect ausschnitt = Bedeckt(Freigestellt(zeichne(0xFFFFFF, false), zeichne(0, false)));
-    if (ausschnitt.isEmpty())
-        ausschnitt = QRect(kAussen, kAussen, pixel(rahmen.width()), pixel(rahmen.height()));
-    // The piece of the page around the letters that fills the box: at the true size when the
-    // letters fit inside the box's margin, else shrunk as a whole until they do.
-    const int rand = static_cast<int>(kRand / kTwipsProPixel) + 3;
+    const auto bedeckt = [&](double zoom) {
+        const Stueck st = zeichneStueck(zoom, false);
+        const QRect r = Bedeckt(Freigestellt(st.aufWeiss, st.aufSchwarz));
+        return r.isEmpty() ? st.rahmen : r;
+    };
+    double zoom = 1;
+    QRect ausschnitt = bedeckt(zoom);
+    // Small letters drawn larger, as far as they still fit the box.
+    const double passt = std::min((box.width() - 2.0 * rand) / std::max(1, ausschnitt.width()),
+                                  (box.height() - 2.0 * rand) / std::max(1, ausschnitt.height()));
+    if (ausschnitt.height() < kLesbar && passt > 1) {
+        zoom = std::min({kGroessteLupe, passt, double(kLesbar) / std::max(1, ausschnitt.height())});
+        ausschnitt = bedeckt(zoom);
+    }
+    // The piece of the page around the letters that fills the box: as drawn when the letters fit
+    // inside the box's margin, else shrunk as a whole until they do.
     const double faktor = std::min({1.0, (box.width() - 2.0 * rand) / std::max(1, ausschnitt.width()),
                                     (box.height() - 2.0 * rand) / std::max(1, ausschnitt.height())});
     QRectF stueck(QPointF(), QSizeF(box) / std::max(faktor, 0.01));
@@ -133,7 +168,7 @@ QImage SchriftAufGrund(AppState& s, const ClassSchrift& schrift, QRectF rahmen,
     bild.fill(Qt::white); // the page's paper beyond the piece drawn
     {
         QPainter maler(&bild);
-        maler.drawImage(-stueck.topLeft(), zeichne(0xFFFFFF, true));
+        maler.drawImage(-stueck.topLeft(), zeichneStueck(zoom, true).mitGrund);
     }
     return bild.size() == box ? bild : bild.scaled(box, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }

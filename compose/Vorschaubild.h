@@ -32,7 +32,9 @@ struct Grundform {
 // A template text as the page shows it: drawn at its true size (zoom 100) in its frame `rahmen`
 // (tenths of a millimetre, page coordinates), turned as its angle says, over the shapes of `grund`
 // at their places; the piece of the page around the letters, in the proportions of `box`, shrunk
-// to fit when it is larger. A text that draws nothing shows the piece around its frame.
+// to fit when it is larger. Letters too small to read at their true size (a week number of six
+// points) are drawn larger, up to three times, as far as the box allows. A text that draws nothing
+// shows the piece around its frame.
 [[nodiscard]] QImage SchriftAufGrund(AppState& s, const ClassSchrift& schrift, QRectF rahmen,
                                      const std::vector<Grundform>& grund, QSize box);
 

@@ -113,3 +113,20 @@ TEST(SchriftAufGrund, ALongTitleIsShrunkWholeAndThePreviewLeavesNoTraceInTheStat
     EXPECT_DOUBLE_EQ(s.Zeichenfaktor, 0.37);
     EXPECT_EQ(s.Schriftliste(1).Textstring, u"");
 }
+
+TEST(SchriftAufGrund, ATinyWeekNumberIsDrawnLargerToBeRead) {
+    AppState s = Design(4);
+    ClassSchrift woche = s.Schriftliste(6); // six points
+    woche.Textstring = QStringLiteral("12");
+    const Treffer klein =
+        InFarbe(SchriftAufGrund(s, woche, Rechteck(s, 6), {}, kBox), 0xFFFFFF, QRect(QPoint(), kBox), true);
+    ASSERT_GT(klein.anzahl, 10);
+    EXPECT_GE(klein.box.height(), 14); // at its true size the digits are about 6 pixels high
+    EXPECT_LT(klein.box.height(), kBox.height());
+    // A text already large enough keeps its true size.
+    ClassSchrift monat = s.Schriftliste(2);
+    monat.Textstring = QStringLiteral("Mai");
+    const Treffer gross =
+        InFarbe(SchriftAufGrund(s, monat, Rechteck(s, 2), {}, kBox), 0xFFFFFF, QRect(QPoint(), kBox), true);
+    EXPECT_NEAR(gross.box.height(), 29, 6); // 30 points of 40 pixels: capitals about 29 pixels high
+}

@@ -322,3 +322,15 @@ TEST(Standarddesigns, EveryTypeAndVariantWalksInsideThePage) {
             EXPECT_EQ(tageszahlen, erwartet[typ]) << typ << "/" << variante;
         }
 }
+
+TEST(Monatsname, AnEmptiedNameDrawsNothingAndTheRestOfThePageStays) {
+    AppState s = Monat1(2027, 3);
+    ASSERT_EQ(Text(s, 2).size(), 1u);
+    EXPECT_EQ(Text(s, 2)[0].inhalt, s.Monatsnamen(3));
+    s.Monatsnamen(3) = QString(); // emptied in the options dialog
+    EXPECT_TRUE(Text(s, 2).empty());
+    EXPECT_EQ(Text(s, 3).size(), 31u);
+    s.Seitennummer = 4; // other months keep their names
+    ASSERT_EQ(Text(s, 2).size(), 1u);
+    EXPECT_EQ(Text(s, 2)[0].inhalt, s.Monatsnamen(4));
+}
