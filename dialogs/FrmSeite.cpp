@@ -217,6 +217,8 @@ QGroupBox* FrmSeite::GruppeEtiketten() {
     m_suche = Box("TextSuche");
     m_suche->setMaximumWidth(QWIDGETSIZE_MAX);
     m_suche->setPlaceholderText(QStringLiteral("Name oder Größe, z. B. 70 x 37"));
+    // Wide enough for its hint and the clear button, so that the example size shows whole.
+    m_suche->setMinimumWidth(m_suche->fontMetrics().horizontalAdvance(m_suche->placeholderText()) + 48);
     m_suche->setClearButtonEnabled(true);
     f->addRow(QStringLiteral("Suchen"), m_suche);
     m_katalog = new QComboBox(g);
