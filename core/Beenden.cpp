@@ -45,7 +45,9 @@ bool Beenden(AppState& s, Oberflaeche& ui) {
             s.AktuelleDatei, GroessteDatei, [&s](const QByteArray& b) { return LesbarAlsDesign(s, b); },
             [&] { return SaveDesign(s, ui); });
     }
-    if (s.IstEtikett != 0)
+    // The card and CD editions read the catalogue when the page dialog first opens; once read, the
+    // user's own rows 1 to 5 are kept as in the label edition. Never read, the file stays as it is.
+    if (s.IstEtikett != 0 || s.KartenformatAnzahl > 0)
         schreibe(ordner + QStringLiteral("etikett.ini"), GroessteKleineDatei, LesbarAlsKartenformate,
                  [&] { return SaveKartenformate(s, ui); });
     return ok;
