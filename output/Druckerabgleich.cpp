@@ -115,13 +115,17 @@ void ZeichneTestbogen(const AppState& s, Canvas& d) {
             d.Print(QString::number(mm / 10));
         }
     }
-    d.CurrentX = 300 * s.Geraetefaktor;
+    // The note, each line from the same left edge: Print starts the next line at the paper's edge.
     d.CurrentY = 300 * s.Geraetefaktor;
     d.FontSize = 10;
-    d.Print(QStringLiteral(
-        "Testbogen für den Druckerabgleich: Die Kreuze sollen auf den Ecken der Etiketten liegen."));
-    d.Print(QStringLiteral(
-        "Liegen sie zu weit rechts oder unten, tragen Sie die Abweichung in 1/10 mm negativ ein."));
+    for (const QString& zeile :
+         {QStringLiteral(
+              "Testbogen für den Druckerabgleich: Die Kreuze sollen auf den Ecken der Etiketten liegen."),
+          QStringLiteral(
+              "Liegen sie zu weit rechts oder unten, tragen Sie die Abweichung in 1/10 mm negativ ein.")}) {
+        d.CurrentX = 300 * s.Geraetefaktor;
+        d.Print(zeile);
+    }
 }
 
 bool DruckeTestbogen(const AppState& s, Oberflaeche& ui, const QString& drucker, const QString& pdfDatei) {

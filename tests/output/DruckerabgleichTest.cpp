@@ -1,7 +1,7 @@
 #include "output/Druckerabgleich.h"
-#include "tests/core/state/ProtokollOberflaeche.h"
 #include "compose/canvas/RecordingCanvas.h"
 #include "core/state/AppState.h"
+#include "tests/core/state/ProtokollOberflaeche.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -77,4 +77,12 @@ TEST(Druckerabgleich, TestSheetHasACrossAtEveryLabelCornerAndMillimetreRulers) {
     EXPECT_EQ(linien[kreuze - 1].Punkte, (std::vector<QPoint>{{px(x), px(y - 30)}, {px(x), px(y + 30)}}));
     // A centimetre tick of the top ruler is 5 mm long.
     EXPECT_EQ(linien[kreuze + 10].Punkte, (std::vector<QPoint>{{px(100), 0}, {px(100), px(50)}}));
+    // The note's two lines start 30 mm in, clear of the ruler, one below the other.
+    const auto texte = d.Alle("Print");
+    ASSERT_GE(texte.size(), 2u);
+    const auto& erste = texte[texte.size() - 2];
+    const auto& zweite = texte.back();
+    EXPECT_EQ(erste.Werte[0], px(300));
+    EXPECT_EQ(zweite.Werte[0], px(300));
+    EXPECT_GT(zweite.Werte[1], erste.Werte[1]);
 }
