@@ -144,9 +144,10 @@ QWidget* FrmBild::SeiteDatei() {
                                        : datei.absolutePath());
     // Return in the path box takes the path and leaves the dialog open: without this the dialog's
     // default button would take it as Ok and, with no file chosen yet, delete the new frame.
-    EingabeBleibt(m_dir1, [this] { PfadGetippt(); });
+    EingabeBleibt(m_dir1, [this] { PfadGetippt(true); });
     connect(m_dir1, &QLineEdit::editingFinished, this, [this] {
-        if (!m_fuellen && QDir(m_dir1->text()) != QDir(m_file1->property("ordner").toString())) PfadGetippt();
+        if (!m_fuellen && QDir(m_dir1->text()) != QDir(m_file1->property("ordner").toString()))
+            PfadGetippt(false); // leaving the box for a button: no message in the way of the click
     });
     connect(m_file1, &QListWidget::itemActivated, this, [this](QListWidgetItem* eintrag) {
         DateiGewaehlt(QDir(m_dir1->text()).filePath(eintrag->text()));
@@ -255,14 +256,14 @@ void FrmBild::WinkelUebernehmen() {
 }
 
 // A folder typed shows its pictures; a file typed is chosen as if clicked in the list.
-void FrmBild::PfadGetippt() {
+void FrmBild::PfadGetippt(bool melden) {
     const QString pfad = m_dir1->text().trimmed();
     const QFileInfo info(pfad);
     if (info.isDir()) {
         OrdnerZeigen(info.absoluteFilePath());
     } else if (info.isFile()) {
         DateiGewaehlt(info.absoluteFilePath());
-    } else {
+    } else if (melden) {
         m_ui.Meldung(QStringLiteral("Den Ordner oder die Datei \"%1\" gibt es nicht.").arg(pfad),
                      QStringLiteral("Hinweis"));
         m_dir1->setText(m_file1->property("ordner").toString());

@@ -53,7 +53,8 @@ private:
     QWidget* SeiteDrehen();
     QSlider* Regler(const QString& name, int von, int bis, int wert);
     void OrdnerZeigen(const QString& ordner);
-    void PfadGetippt();       // Return in `Dir1`
+    // Return in `Dir1` (told when the path doesn't exist) or leaving it (passed over then).
+    void PfadGetippt(bool melden);
     void WinkelUebernehmen(); // `Text1` left or Return in it
     void VorschauNeu();
 

@@ -146,6 +146,9 @@ TEST_F(BildDialogTest, ReturnInABoxTakesItsTextAndKeepsTheDialogOpen) {
     EXPECT_TRUE(ui.meldungen[0].contains(u"gibtsnicht"));
     EXPECT_EQ(QDir(pfad->text()), QDir(ordner.path()));
     EXPECT_NE(pfad->text(), vorher);
+    pfad->setText(QStringLiteral("/gibt/es/auch/nicht"));
+    emit pfad->editingFinished(); // leaving the box for a button says nothing
+    EXPECT_EQ(ui.meldungen.size(), 1);
 
     pfad->setText(foto); // a file typed is chosen as a click in the list chooses it
     QTest::keyClick(pfad, Qt::Key_Return);
