@@ -53,14 +53,10 @@ Druckergebnis BefehlDrucken(AppState& s, Oberflaeche& ui, Druckdialogwerte w,
     const QString pdf = w.Drucker == kPdfDatei ? w.PdfDatei : QString();
     const QString entwurf = pdf.trimmed().isEmpty() ? pdf : pdf + QStringLiteral(".teil");
     Druckergebnis e = Druckergebnis::Fehler;
-    // The calendar prints its days even while its template is being edited on the screen.
-    const float bearbeiten = s.KalenderBearbeiten;
-    s.KalenderBearbeiten = 0;
     Sicher(ui, [&] {
         e = Drucke(s, ui, w.Drucker, entwurf, AlsDruckauftrag(w), fortschritt);
         return true;
     });
-    s.KalenderBearbeiten = bearbeiten;
     if (entwurf == pdf) return e;
     if (e == Druckergebnis::Gedruckt) {
         QFile::remove(pdf);

@@ -227,7 +227,7 @@ void KalenderRahmenLauf(AppState& s, KalenderZeichner& zeichner, int n) {
 
     const bool kalender = s.IstKalender != 0;
     // Editing the template: the frame stands at its own place, where the mouse picks it up.
-    if (kalender && s.KalenderBearbeiten != 0) {
+    if (VorlageBearbeiten(s)) {
         A.X = T.X;
         A.Y = T.Y;
     }
@@ -250,7 +250,7 @@ void KalenderRahmenLauf(AppState& s, KalenderZeichner& zeichner, int n) {
             A = rahmen;
         }
         s.Farbvorgabe = -1;
-        if (!kalender || s.KalenderBearbeiten != 0) return;
+        if (!kalender || VorlageBearbeiten(s)) return;
 
         if (!RahmenSchritt(s, T, A, tafel, typ, k, seite, d, m, t)) return;
     }

@@ -372,7 +372,7 @@ void KalenderTextLauf(AppState& s, KalenderZeichner& zeichner, int n) {
         }
     }
     // Editing the template: the frame stands at its own place, where the mouse picks it up.
-    if (s.IstKalender != 0 && s.KalenderBearbeiten != 0) {
+    if (VorlageBearbeiten(s)) {
         A.X = T.X;
         A.Y = T.Y;
     }
@@ -397,7 +397,7 @@ void KalenderTextLauf(AppState& s, KalenderZeichner& zeichner, int n) {
             }
         }
         s.Farbvorgabe = -1;
-        if (!kalender || s.KalenderBearbeiten != 0) break;
+        if (!kalender || VorlageBearbeiten(s)) break;
 
         if (!TextSchritt(s, T, A, tafel, typ, k, seite, letzter, wt, d, m, t)) break;
     }

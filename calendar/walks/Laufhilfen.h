@@ -23,6 +23,12 @@ template <typename T> T Zelle(const Tabelle<T>& tabelle, int d, int m, T leer) {
     return (d >= 1 && d <= 31 && m >= 1 && m <= 12) ? tabelle(d, m) : leer;
 }
 
+// "Kalender Editieren": the template's frames stand once at their own places on the screen; a
+// print walks the days all the same.
+inline bool VorlageBearbeiten(const AppState& s) {
+    return s.IstKalender != 0 && s.KalenderBearbeiten != 0 && s.DruckenAktiv == 0;
+}
+
 inline bool RahmenDa(const AppState& s, int n) {
     return n >= 1 && n <= static_cast<int>(s.RahmenAnzahl) && s.Rahmenliste.Gueltig(n);
 }
